@@ -1,0 +1,171 @@
+// The store's operations with real files, against the least that a durable save can do.
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+
+#include "operations.h"
+#include "platform/desktop/posix_files.h"
+#include "sample_data.h"
+#include "timing.h"
+#include "workplace.h"
+
+namespace brimle::bench {
+namespace {
+
+/// A new folder on the disk, removed with all that is in it.
+class ScratchFolder {
+ public:
+  ScratchFolder() {
+    std::string name = BRIMLE_BENCH_FOLDER "/data-XXXXXX";
+    require(::mkdtemp(name.data()), "making a folder in " BRIMLE_BENCH_FOLDER);
+    path_ = name;
+  }
+  ~ScratchFolder() { std::filesystem::remove_all(path_); }
+  ScratchFolder(const ScratchFolder&) = delete;
+  ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+  const Path& path() const { return path_; }
+
+ private:
+  Path path_;
+};
+
+/// Counts the time spent in the system calls of a save.
+class TimedCalls : public FileCalls {
+  template <class Call>
+  auto counted(Call call) {
+    const auto start = std::chrono::steady_clock::now();
+    const auto result = call();
+    total += std::chrono::steady_clock::now() - start;
+    return result;
+  }
+
+ public:
+  int open(const char* path, int flags, mode_t mode) override {
+    return counted([&] { return FileCalls::open(path, flags, mode); });
+  }
+  int fchmod(int file, mode_t mode) override {
+    return counted([&] { return FileCalls::fchmod(file, mode); });
+  }
+  ssize_t writev(int file, const iovec* pieces, int count) override {
+    return counted([&] { return FileCalls::writev(file, pieces, count); });
+  }
+  int fdatasync(int file) override {
+    return counted([&] { return FileCalls::fdatasync(file); });
+  }
+  int close(int file) override {
+    return counted([&] { return FileCalls::close(file); });
+  }
+  int rename(const char* from, const char* to) override {
+    return counted([&] { return FileCalls::rename(from, to); });
+  }
+  int unlink(const char* path) override {
+    return counted([&] { return FileCalls::unlink(path); });
+  }
+
+  std::chrono::duration<double> total{};
+};
+
+bool writeWhole(int file, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t count = ::write(file, bytes.data(), bytes.size());
+    if (count <= 0) return false;
+    bytes.remove_prefix(static_cast<std::size_t>(count));
+  }
+  return true;
+}
+
+bool replaceBarely(const Path& path, const Path& temporary, std::string_view bytes) {
+  const int file = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+  return file >= 0 && writeWhole(file, bytes) && ::fdatasync(file) == 0 && ::close(file) == 0 &&
+         ::rename(temporary.c_str(), path.c_str()) == 0;
+}
+
+/// A store over a sample day file on the disk, and a bare file of the same bytes beside it. Both have been
+/// saved once, so that every measured save replaces a file that an earlier one wrote.
+struct OnDisk {
+  explicit OnDisk(int years) : document(sample(years).document), place(filesWithDayFile(), folder.path()) {
+    place.change();
+    bareSave();
+  }
+
+  Files& filesWithDayFile() {
+    const std::string_view whole = document;
+    require(files.replace(folder.path() / "today.json", std::span(&whole, 1)), "writing the day file");
+    return files;
+  }
+
+  double bareSave() {
+    bool done = false;
+    const double seconds = secondsOf([&] { done = replaceBarely(bare, bareTemporary, document); });
+    require(done, "the bare save");
+    return seconds;
+  }
+
+  const std::string& document;
+  ScratchFolder folder;
+  const Path bare = folder.path() / "bare.json";
+  const Path bareTemporary = folder.path() / ".bare.json.tmp";
+  TimedCalls calls;
+  PosixFiles files{calls};
+  Workplace place;
+};
+
+void save(benchmark::State& state, int years) {
+  OnDisk disk(years);
+  std::vector<double> own;
+  const auto change = [&] {
+    disk.place.pause();
+    disk.calls.total = {};
+    const double seconds = secondsOf([&] { disk.place.change(); });
+    own.push_back(seconds - disk.calls.total.count());
+    return seconds;
+  };
+  compare(state, change, [&] { return disk.bareSave(); });
+  state.counters[kOwnSecondsCounter] = median(std::move(own));
+}
+
+void addLines(benchmark::State& state, int years) {
+  OnDisk disk(years);
+  const std::string lines = sampleLines(1000);
+  const auto add = [&] {
+    disk.place.pause();
+    const double seconds = secondsOf([&] { disk.place.store.addLines(lines, false); });
+    disk.place.store.undo();
+    return seconds;
+  };
+  compare(state, add, [&] { return disk.bareSave(); });
+}
+
+void rollover(benchmark::State& state, int years) {
+  OnDisk disk(years);
+  SimulatedTime& time = disk.place.time;
+  const auto nextDay = [&] {
+    disk.place.store.addLines(sampleLines(kLiveTasks), false);
+    return secondsOf([&] { time.setClock(time.now() + std::chrono::hours(24)); });
+  };
+  compare(state, nextDay, [&] { return disk.bareSave(); });
+}
+
+void undo(benchmark::State& state, int years) {
+  OnDisk disk(years);
+  disk.place.pause();
+  disk.place.sweepOne();
+  const auto undoAndRedo = [&] {
+    const double seconds = secondsOf([&] { disk.place.store.undo(); });
+    disk.place.store.redo();
+    return seconds;
+  };
+  compare(state, undoAndRedo, [&] { return disk.bareSave(); });
+}
+
+}  // namespace
+
+const Operation kSave{"save", save, 10, 10};
+const Operation kAddLines{"addLines", addLines, 5, 10};
+const Operation kRollover{"rollover", rollover, 5, 10};
+const Operation kUndo{"undo", undo, 5, 10};
+
+}  // namespace brimle::bench

@@ -1,0 +1,37 @@
+// What is measured, each operation on an archive of a given age in years.
+//
+// An operation leaves its results in counters of `state`: the ratio of its time to that of a bare operation,
+// which alternates with it so that a machine's slow moments fall on both alike; or an amount. One that cannot
+// do its work, because a file cannot be written, ends the program.
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+namespace brimle::bench {
+
+inline constexpr char kRatioCounter[] = "ratio";
+inline constexpr char kBytesCounter[] = "bytes";
+/// Seconds an iteration, without the time inside the system calls.
+inline constexpr char kOwnSecondsCounter[] = "own seconds";
+
+struct Operation {
+  const char* name;
+  void (*run)(benchmark::State& state, int years);
+  int iterations;
+  int repetitions;
+};
+
+// Against the bare save: the day file's bytes from one buffer, by write, fdatasync and rename
+// (bench_store.cpp).
+extern const Operation kSave;      ///< one change of one task; its own seconds too
+extern const Operation kAddLines;  ///< 1,000 lines pasted
+extern const Operation kRollover;  ///< a day closed and the next opened, with a backup
+extern const Operation kUndo;      ///< one step back over a sweep
+
+// In memory (bench_memory.cpp).
+extern const Operation kEncode;  ///< the live lists encoded and the pieces laid out; its real time counts
+extern const Operation kEncodeGrowth;  ///< the same, against an archive of one year
+extern const Operation kUndoMemory;    ///< the bytes that a hundred steps hold which each change the archive
+extern const Operation kLoad;  ///< the day file's bytes to records, against a deep copy of the archive's
+
+}  // namespace brimle::bench

@@ -1,0 +1,40 @@
+// Times operations, alone or in turns with a bare one.
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <vector>
+
+#include "operations.h"
+
+namespace brimle::bench {
+
+template <class Action>
+double secondsOf(Action action) {
+  const auto start = std::chrono::steady_clock::now();
+  action();
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+/// The middle one of at least one value; of an even number, the upper of the two.
+inline double median(std::vector<double> values) {
+  const auto middle = values.begin() + std::ssize(values) / 2;
+  std::nth_element(values.begin(), middle, values.end());
+  return *middle;
+}
+
+/// Runs all iterations of `state` and sets its ratio. `ours` and `bare` each do one of the two operations,
+/// prepare it as they need, and return the seconds that count.
+template <class Ours, class Bare>
+void compare(benchmark::State& state, Ours ours, Bare bare) {
+  std::vector<double> ratios;
+  for (auto _ : state) {
+    const double seconds = ours();
+    ratios.push_back(seconds / bare());
+  }
+  state.counters[kRatioCounter] = median(std::move(ratios));
+}
+
+}  // namespace brimle::bench

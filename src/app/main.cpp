@@ -1,0 +1,113 @@
+// The program: finds its folders, makes sure it is alone on its data, puts the parts together, runs.
+#include <QApplication>
+#include <QPalette>
+#include <QQuickWindow>
+#include <cstdio>
+#include <cstdlib>
+
+#include "i18n/i18n.h"
+#include "i18n/region.h"
+#include "model/data_folder.h"
+#include "model/store.h"
+#include "platform/desktop/posix_files.h"
+#include "platform/desktop/posix_folder_lock.h"
+#include "platform/desktop/qt_desktop.h"
+#include "platform/desktop/qt_instance.h"
+#include "platform/desktop/qt_notification_center.h"
+#include "platform/desktop/qt_pasteboard.h"
+#include "platform/desktop/qt_preferences_store.h"
+#include "platform/desktop/qt_time.h"
+#include "platform/system_locale.h"
+#include "prefs/migration.h"
+#include "prefs/ui_state.h"
+#include "views/content_view.h"
+#include "views/qt/main_window.h"
+
+namespace brimle {
+namespace {
+
+std::optional<std::string> environmentVariable(const char* name) {
+  const char* value = std::getenv(name);
+  return value ? std::optional<std::string>(value) : std::nullopt;
+}
+
+/// A base directory of the XDG specification; relative paths in the variable are ignored, as it asks.
+Path baseDirectory(const char* variable, const char* fallbackBelowHome) {
+  const Path path = environmentVariable(variable).value_or("");
+  if (path.is_absolute()) return path;
+  return Path(environmentVariable("HOME").value_or("/")) / fallbackBelowHome;
+}
+
+struct Folders {
+  Path data = baseDirectory("XDG_DATA_HOME", ".local/share");
+  Path config = baseDirectory("XDG_CONFIG_HOME", ".config");
+  Path state = baseDirectory("XDG_STATE_HOME", ".local/state");
+};
+
+/// What a second launch does: the first instance comes forward. The process's exit status.
+int handOver() {
+  if (activateRunningInstance()) return 0;
+  std::fprintf(stderr, "%s\n", std::string(I18n::t("Brimle is already open.")).c_str());
+  return 1;
+}
+
+int run(int argc, char** argv) {
+  const Folders folders;
+  const SystemLocale locale = systemLocale(environmentVariable);
+  PosixFiles files;
+  const Path dataFolder = locateDataFolder(files, folders.data);
+  const FolderLock lock(dataFolder);
+  const bool alone = lock.result() != FolderLock::Result::heldByAnother;
+
+  QtPreferencesStore preferences(folders.config / "brimle" / "settings.ini");
+  migrateFromQuorel(preferences, QtPreferencesStore(folders.config / "quorel" / "settings.ini"));
+  I18n::setLang(I18n::resolve(preferences.string("language").value_or("system"), locale.preferredLanguages));
+  if (!alone) {
+    const QCoreApplication application(argc, argv);
+    return handOver();
+  }
+
+  QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+  QApplication application(argc, argv);
+  QApplication::setDesktopFileName(QStringLiteral("org.brimle.Brimle"));
+  QApplication::setQuitOnLastWindowClosed(false);
+
+  QtTime time;
+  QtDesktop desktop;
+  QtPasteboard pasteboard;
+  MainWindow* window = nullptr;
+  const auto comeForward = [&window](const QByteArray& token) {
+    if (window) window->bringForward(token);
+  };
+  QtInstance instance(comeForward);
+  const bool reachable = instance.announce();
+  QtNotificationCenter notifications(time, files, folders.state / "brimle", comeForward);
+
+  Store store({time, files, desktop, notifications}, regionOf(locale.region), dataFolder);
+  UIState ui(preferences, locale.preferredLanguages);
+  ContentView view(store, time);
+  MainWindow mainWindow(store, view, ui, pasteboard);
+  window = &mainWindow;
+
+  const auto appearance = preferences.string("appearance");
+  const bool systemIsDark = QApplication::palette().window().color().lightness() < 128;
+  mainWindow.theme().setAppearance(appearance == "dark" || (appearance != "light" && systemIsDark)
+                                       ? Appearance::dark
+                                       : Appearance::light);
+  // A window that nobody can ask for again must not be closed into nowhere.
+  if (!reachable) mainWindow.onClose([] { QCoreApplication::quit(); });
+  QObject::connect(&application, &QApplication::applicationStateChanged, &application, [&](auto state) {
+    if (state == Qt::ApplicationActive) store.rolloverIfNeeded();
+  });
+  store.resyncArrivalNotifications();
+  mainWindow.bringForward();
+  return QApplication::exec();
+}
+
+}  // namespace
+}  // namespace brimle
+
+int main(int, char** argv) {
+  int argc = 1;  // no arguments are read
+  return brimle::run(argc, argv);
+}

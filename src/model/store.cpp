@@ -1,0 +1,117 @@
+#include "model/store.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "i18n/i18n.h"
+#include "model/visibility.h"
+
+namespace brimle {
+
+Store::Store(Ports ports, Region region, Path dataFolder)
+    : time_(ports.time),
+      files_(ports.files),
+      desktop_(ports.desktop),
+      notifications_(ports.notifications),
+      region_(region),
+      folder_(std::move(dataFolder)),
+      fileURL_(folder_ / "today.json"),
+      storedDate_(todayKey()) {
+  files_.removeLeftovers(fileURL_);
+  load();
+  rolloverIfNeeded();
+  scheduleCompletedSweep();
+  dayChange_ = time_.onDayChange([this] { rolloverIfNeeded(); });
+}
+
+void Store::load() {
+  const auto bytes = files_.read(fileURL_);
+  auto file = bytes ? readDayFile(*bytes) : std::nullopt;
+  if (file) {
+    storedDate_ = std::move(file->date);
+    lists_ = std::move(file->lists);
+  } else {
+    loadStarterTasks();
+  }
+  loading_ = false;
+  backupIfNeeded(storedDate_);
+  unkept_ = !file && !(bytes && keepUnreadable(*bytes));
+}
+
+void Store::loadStarterTasks() {
+  for (const std::string_view key :
+       {"Tick this task to see it filed away", "Drag me to the top", "Double-click a task to edit it",
+        "Right-click a task for everything else"}) {
+    lists_.items.push_back(makeTask(std::string(I18n::t(key))));
+  }
+  lists_.items.back().notes.emplace_back(
+      I18n::t("Notes sit underneath — try typing: milk // eggs // bread"));
+}
+
+const TodoItem* Store::find(const Uuid& id) const {
+  const auto found = std::find_if(items().begin(), items().end(), [&](const auto& task) { return task.id == id; });
+  return found == items().end() ? nullptr : &*found;
+}
+
+std::vector<const TodoItem*> Store::visibleItems() const {
+  std::vector<const TodoItem*> visible;
+  const bool weekend = isWeekendToday();
+  for (const TodoItem& task : items()) {
+    if (!rests(task, weekend)) visible.push_back(&task);
+  }
+  return visible;
+}
+
+EntryContext Store::entryContext() const { return {time_.today(), region_, std::string(I18n::locale())}; }
+
+Subscription Store::observe(std::function<void(const Changes&)> observer) {
+  return observers_.subscribe(std::move(observer));
+}
+
+template <class List>
+void Store::assign(List Lists::*list, List value, Field field) {
+  const Operation operation(*this);
+  pushUndo();
+  lists_.*list = std::move(value);
+  changes_.add(field);
+}
+
+void Store::setItems(std::vector<TodoItem> items) {
+  const Operation operation(*this);
+  assign(&Lists::items, std::move(items), Field::items);
+  if (!suppressUndo_) sweepDue_ = true;
+}
+
+void Store::setArchive(Archive archive) { assign(&Lists::archive, std::move(archive), Field::archive); }
+
+void Store::setTomorrow(std::vector<TodoItem> tomorrow) {
+  assign(&Lists::tomorrow, std::move(tomorrow), Field::tomorrow);
+}
+
+void Store::setScheduled(std::vector<ScheduledItem> scheduled) {
+  assign(&Lists::scheduled, std::move(scheduled), Field::scheduled);
+}
+
+void Store::finishOperation() {
+  const Changes changes = std::exchange(changes_, {});
+  const bool sweepDue = std::exchange(sweepDue_, false);
+  snapshotTaken_ = false;
+  if (changes.hasList()) save();
+  if (changes.has(Field::scheduled)) resyncArrivalNotifications();
+  if (sweepDue) scheduleCompletedSweep();
+  if (changes.any()) observers_.notify(changes);
+}
+
+void Store::save() {
+  if (loading_ || !setAsideUnkept()) return;
+  const EncodedDayFile file(storedDate_, lists_);
+  if (files_.replace(fileURL_, file.pieces())) unkept_ = false;
+}
+
+void Store::later(Seconds delay, std::function<void()> action) {
+  time_.after(delay, [alive = std::weak_ptr(alive_), action = std::move(action)] {
+    if (!alive.expired()) action();
+  });
+}
+
+}  // namespace brimle

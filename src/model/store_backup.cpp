@@ -1,0 +1,85 @@
+// Copies of the day file beside it, in the folder Backups: one a day key, the newest seven kept, never read back;
+// and day files that could not be read, kept for good.
+#include <algorithm>
+
+#include "model/store.h"
+
+namespace brimle {
+namespace {
+
+constexpr std::size_t kKeptBackups = 7;
+constexpr std::string_view kPrefix = "today-";
+
+bool writeWhole(Files& files, const Path& path, std::string_view bytes) {
+  return files.replace(path, std::span(&bytes, 1));
+}
+
+bool copy(Files& files, const Path& from, const Path& to) {
+  const auto bytes = files.read(from);
+  return bytes && writeWhole(files, to, *bytes);
+}
+
+/// Removes all but the greatest names, which are the newest days.
+void prune(Files& files, const Path& folder) {
+  auto names = files.list(folder);
+  if (!names) return;
+  std::erase_if(*names, [](const std::string& name) { return !name.starts_with(kPrefix); });
+  std::sort(names->begin(), names->end());
+  for (std::size_t index = 0; index + kKeptBackups < names->size(); ++index) {
+    files.remove(folder / (*names)[index]);
+  }
+}
+
+bool holdsCopyOf(Files& files, const Path& folder, const std::string& bytes) {
+  const auto names = files.list(folder).value_or(std::vector<std::string>{});
+  return std::any_of(names.begin(), names.end(),
+                     [&](const std::string& name) { return files.read(folder / name) == bytes; });
+}
+
+/// A moment as "20260615T090000Z" (ISO 8601, basic form, UTC).
+std::string stampOf(Instant instant) {
+  const auto day = std::chrono::floor<std::chrono::days>(instant);
+  const std::chrono::hh_mm_ss time(std::chrono::floor<std::chrono::seconds>(instant - day));
+  std::string stamp = dayKey(Day(day));
+  std::erase(stamp, '-');
+  const auto append = [&](auto count) {
+    stamp += static_cast<char>('0' + count / 10);
+    stamp += static_cast<char>('0' + count % 10);
+  };
+  stamp += 'T';
+  append(time.hours().count());
+  append(time.minutes().count());
+  append(time.seconds().count());
+  return stamp + 'Z';
+}
+
+}  // namespace
+
+void Store::backupIfNeeded(const std::string& stamp) {
+  const Path folder = folder_ / "Backups";
+  files_.createFolders(folder);
+  const Path target = folder / (std::string(kPrefix) + stamp + ".json");
+  if (files_.exists(target) || !files_.exists(fileURL_)) return;
+  copy(files_, fileURL_, target);
+  prune(files_, folder);
+}
+
+Path Store::unreadablePath() const { return folder_ / "Backups" / ("unreadable-" + stampOf(time_.now()) + ".json"); }
+
+/// Keeps the bytes of a day file that is no document, where today's backup does not hold them already. Tells
+/// whether a backup holds them now.
+bool Store::keepUnreadable(const std::string& bytes) {
+  return holdsCopyOf(files_, folder_ / "Backups", bytes) || writeWhole(files_, unreadablePath(), bytes);
+}
+
+/// Before a save over bytes that no backup holds (a day file that could not be read or copied, or that came back
+/// with its disk after the start): moves them to the backups. False where that fails, so that nothing is written
+/// over them.
+bool Store::setAsideUnkept() {
+  if (!unkept_ || !files_.exists(fileURL_)) return true;
+  const Path kept = unreadablePath();
+  files_.createFolders(kept.parent_path());
+  return files_.rename(fileURL_, kept);
+}
+
+}  // namespace brimle

@@ -1,0 +1,204 @@
+#include "platform/desktop/posix_files.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+#include <exception>
+
+namespace brimle {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t kSlack = 64;  // what the widest vector unit reads past the end of a JSON text
+constexpr int kMostLinks = 40;      // the kernel's own limit
+constexpr mode_t kModeBits = 07777;
+
+FileCalls& systemCalls() {
+  static FileCalls calls;
+  return calls;
+}
+
+/// Repeats a system call for as long as signals interrupt it.
+template <class Call>
+auto retried(Call call) {
+  auto result = call();
+  while (result < 0 && errno == EINTR) result = call();
+  return result;
+}
+
+bool isFolder(const Path& path) {
+  std::error_code error;
+  return fs::is_directory(path, error);
+}
+
+/// Where a path leads through all links, be it to a place still empty; nothing for a ring of links.
+std::optional<Path> followLinks(Path path) {
+  for (int links = 0; links <= kMostLinks; ++links) {
+    std::error_code notALink;
+    const Path target = fs::read_symlink(path, notALink);
+    if (notALink) return path;
+    path = path.parent_path() / target;
+  }
+  return std::nullopt;
+}
+
+Path temporaryFor(const Path& target) {
+  return target.parent_path() / ("." + target.filename().string() + ".tmp");
+}
+
+/// All bytes of an open regular file, which may grow meanwhile or, like those of /proc, tell no size.
+std::optional<std::string> readAll(int file) {
+  struct stat status {};
+  if (::fstat(file, &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
+  std::string bytes(static_cast<std::size_t>(status.st_size) + kSlack, '\0');
+  std::size_t filled = 0;
+  while (true) {
+    const ssize_t count = retried([&] { return ::read(file, bytes.data() + filled, bytes.size() - filled); });
+    if (count < 0) return std::nullopt;
+    if (count == 0) break;
+    filled += static_cast<std::size_t>(count);
+    if (bytes.size() - filled < kSlack) bytes.resize(2 * bytes.size());
+  }
+  bytes.resize(filled);
+  return bytes;
+}
+
+}  // namespace
+
+int FileCalls::open(const char* path, int flags, mode_t mode) {
+  return ::open(path, flags, mode);
+}
+int FileCalls::fchmod(int file, mode_t mode) {
+  return ::fchmod(file, mode);
+}
+ssize_t FileCalls::writev(int file, const iovec* pieces, int count) {
+  return ::writev(file, pieces, count);
+}
+int FileCalls::fdatasync(int file) {
+  return ::fdatasync(file);
+}
+int FileCalls::close(int file) {
+  return ::close(file);
+}
+int FileCalls::rename(const char* from, const char* to) {
+  return ::rename(from, to);
+}
+int FileCalls::unlink(const char* path) {
+  return ::unlink(path);
+}
+
+PosixFiles::PosixFiles() : calls_(systemCalls()) {}
+
+bool PosixFiles::exists(const Path& path) const {
+  std::error_code error;
+  return fs::exists(path, error);
+}
+
+std::optional<std::string> PosixFiles::read(const Path& path) const {
+  // Without O_NONBLOCK, opening a pipe would wait for its writer.
+  const int file =
+      retried([&] { return ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC); });
+  if (file < 0) return std::nullopt;
+  std::optional<std::string> bytes;
+  try {
+    bytes = readAll(file);
+  } catch (const std::exception&) {
+    // The file is larger than memory.
+  }
+  ::close(file);
+  return bytes;
+}
+
+std::optional<std::vector<std::string>> PosixFiles::list(const Path& folder) const {
+  std::error_code error;
+  std::vector<std::string> names;
+  for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+    names.push_back(entry->path().filename().string());
+  }
+  if (error) return std::nullopt;
+  return names;
+}
+
+bool PosixFiles::createFolders(const Path& folder) {
+  Path made;
+  for (const Path& part : folder) {
+    made /= part;
+    if (!isFolder(made) && ::mkdir(made.c_str(), 0700) != 0 && errno != EEXIST) return false;
+  }
+  return isFolder(folder);
+}
+
+bool PosixFiles::rename(const Path& from, const Path& to) {
+  return calls_.rename(from.c_str(), to.c_str()) == 0;
+}
+
+bool PosixFiles::remove(const Path& path) {
+  return ::remove(path.c_str()) == 0;
+}
+
+bool PosixFiles::replace(const Path& path, std::span<const std::string_view> pieces) {
+  const std::optional<Path> target = followLinks(path);
+  if (!target) return false;
+  struct stat old {};
+  const bool replaces = ::stat(target->c_str(), &old) == 0;
+  if (replaces ? !S_ISREG(old.st_mode) : errno != ENOENT) return false;
+
+  const Path temporary = temporaryFor(*target);
+  calls_.unlink(temporary.c_str());  // one that cannot be removed makes the exclusive open fail
+  const std::optional<mode_t> mode = replaces ? std::optional(old.st_mode & kModeBits) : std::nullopt;
+  if (write(temporary, pieces, mode) && calls_.rename(temporary.c_str(), target->c_str()) == 0) return true;
+  calls_.unlink(temporary.c_str());
+  return false;
+}
+
+void PosixFiles::removeLeftovers(const Path& path) {
+  if (const auto target = followLinks(path)) calls_.unlink(temporaryFor(*target).c_str());
+}
+
+/// Makes a file that is not there yet, and has it on the disk when it returns true.
+bool PosixFiles::write(const Path& temporary, std::span<const std::string_view> pieces,
+                       std::optional<mode_t> mode) {
+  constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+  const int file = retried([&] { return calls_.open(temporary.c_str(), kFlags, 0600); });
+  if (file < 0) return false;
+  const bool written = (!mode || setMode(file, *mode)) && writeAll(file, pieces) &&
+                       retried([&] { return calls_.fdatasync(file); }) == 0;
+  // An interrupted close has closed: the number may belong to another file by now, and all is synced.
+  const bool closed = calls_.close(file) == 0 || errno == EINTR;
+  return written && closed;
+}
+
+bool PosixFiles::setMode(int file, mode_t mode) {
+  struct stat made {};
+  if (::fstat(file, &made) != 0) return false;
+  // File systems without modes of their own refuse any change but show the same mode for every file.
+  if ((made.st_mode & kModeBits) == mode) return true;
+  return retried([&] { return calls_.fchmod(file, mode); }) == 0;
+}
+
+bool PosixFiles::writeAll(int file, std::span<const std::string_view> pieces) {
+  std::vector<iovec> rest;
+  rest.reserve(pieces.size());
+  for (const std::string_view piece : pieces) {
+    if (!piece.empty()) rest.push_back({const_cast<char*>(piece.data()), piece.size()});
+  }
+  for (std::size_t next = 0; next < rest.size();) {
+    const int count = static_cast<int>(std::min<std::size_t>(rest.size() - next, IOV_MAX));
+    const ssize_t result = retried([&] { return calls_.writev(file, &rest[next], count); });
+    if (result <= 0) return false;
+    auto written = static_cast<std::size_t>(result);
+    while (next < rest.size() && written >= rest[next].iov_len) written -= rest[next++].iov_len;
+    if (written == 0) continue;
+    rest[next].iov_base = static_cast<char*>(rest[next].iov_base) + written;
+    rest[next].iov_len -= written;
+  }
+  return true;
+}
+
+}  // namespace brimle

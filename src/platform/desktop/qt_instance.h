@@ -1,0 +1,38 @@
+// One instance of the program a session: the first owns the application's name on the session bus and is asked
+// there, by org.freedesktop.Application, to come forward. Which instance is the first is not decided here but by
+// the lock on the data folder.
+#pragma once
+
+#include <QByteArray>
+#include <QObject>
+#include <QVariantMap>
+#include <functional>
+
+namespace brimle {
+
+/// The running program as others on the session bus see it.
+class QtInstance : public QObject {
+  Q_OBJECT
+  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+ public:
+  /// `activate` is called with the activation token of whoever asks, empty where there is none.
+  explicit QtInstance(std::function<void(QByteArray)> activate);
+
+  /// Takes the application's name on the session bus, without waiting for the answer. False where there is no bus.
+  bool announce();
+
+ public slots:
+  void Activate(const QVariantMap& platformData);
+  void Open(const QStringList& uris, const QVariantMap& platformData);
+  void ActivateAction(const QString& name, const QVariantList& parameter, const QVariantMap& platformData);
+
+ private:
+  std::function<void(QByteArray)> activate_;
+};
+
+/// Asks the instance that is running to come forward, waiting a moment for one that is only starting. False where
+/// it cannot be reached. For a process that is about to end: it blocks.
+bool activateRunningInstance();
+
+}  // namespace brimle

@@ -1,0 +1,58 @@
+#include "views/content_view.h"
+
+#include <algorithm>
+
+#include "base/text.h"
+#include "i18n/dates.h"
+#include "i18n/i18n.h"
+
+namespace brimle {
+
+std::string ContentView::dateLine() const { return brimle::dateLine(time_.today()); }
+
+std::size_t ContentView::remaining() const {
+  const auto visible = store_.visibleItems();
+  return static_cast<std::size_t>(
+      std::count_if(visible.begin(), visible.end(), [](const TodoItem* task) { return !task->done; }));
+}
+
+std::size_t ContentView::clearedTodayCount() const {
+  const std::string today = dayKey(time_.today());
+  const auto day = std::find_if(store_.archive().begin(), store_.archive().end(),
+                                [&](const ArchiveDay& one) { return one.date == today; });
+  if (day == store_.archive().end()) return 0;
+  return static_cast<std::size_t>(std::count_if(day->items.begin(), day->items.end(),
+                                                [](const ArchivedItem& entry) { return entry.completed; }));
+}
+
+ContentView::Count ContentView::count() const {
+  if (const std::size_t open = remaining(); open > 0) {
+    return {I18n::tasksCount(static_cast<long long>(open)), false};
+  }
+  if (clearedTodayCount() > 0) return {std::string(I18n::t("all done")), true};
+  return {};
+}
+
+std::string ContentView::tomorrowLabel() const {
+  if (store_.tomorrow().empty()) return {};
+  return std::string(I18n::t("tomorrow")) + ": " + std::to_string(store_.tomorrow().size());
+}
+
+std::string ContentView::tomorrowTooltip() const {
+  std::string lines;
+  for (const TodoItem& task : store_.tomorrow()) {
+    if (!lines.empty()) lines += '\n';
+    lines += task.text;
+  }
+  return lines;
+}
+
+void ContentView::commitDraft(std::string_view draft, bool toTomorrow) {
+  if (!trimmedLines(draft).empty()) store_.addLines(draft, toTomorrow);
+}
+
+void ContentView::toggle(const Uuid& id) {
+  if (const TodoItem* task = store_.find(id)) store_.setDone({id}, !task->done);
+}
+
+}  // namespace brimle

@@ -1,0 +1,79 @@
+#include "views/list_diff.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+namespace brimle {
+namespace {
+
+using Rows = std::vector<Uuid>;
+using Kind = RowChange::Kind;
+
+/// Takes the rows that `after` lacks out of `rows`, runs of neighbours as one step, last first.
+void removeGone(Rows& rows, const Rows& after, std::vector<RowChange>& changes) {
+  const std::unordered_set<Uuid> staying(after.begin(), after.end());
+  const auto isGone = [&](std::size_t row) { return !staying.contains(rows[row]); };
+  for (std::size_t end = rows.size(); end > 0; --end) {
+    if (!isGone(end - 1)) continue;
+    std::size_t begin = end - 1;
+    while (begin > 0 && isGone(begin - 1)) --begin;
+    changes.push_back({Kind::remove, begin, end - begin, 0});
+    rows.erase(rows.begin() + static_cast<std::ptrdiff_t>(begin), rows.begin() + static_cast<std::ptrdiff_t>(end));
+    end = begin + 1;
+  }
+}
+
+/// Brings the rows that stay into the order they have in `after`. Of two ways to mend a place the one that moves
+/// a single row is taken: a row that went down is taken out, any other is fetched.
+void moveStaying(Rows& rows, const Rows& after, std::vector<RowChange>& changes) {
+  const std::unordered_set<Uuid> known(rows.begin(), rows.end());
+  Rows order;
+  std::copy_if(after.begin(), after.end(), std::back_inserter(order), [&](const Uuid& id) { return known.contains(id); });
+  const auto move = [&](std::size_t from, std::size_t to) {
+    changes.push_back({Kind::move, from, 1, to});
+    const auto begin = rows.begin();
+    const auto at = [&](std::size_t row) { return begin + static_cast<std::ptrdiff_t>(row); };
+    if (from < to) {
+      std::rotate(at(from), at(from + 1), at(to + 1));
+    } else {
+      std::rotate(at(to), at(from), at(from + 1));
+    }
+  };
+  for (std::size_t row = 0; row < order.size(); ++row) {
+    while (rows[row] != order[row]) {
+      const bool nextIsRight = row + 1 < rows.size() && rows[row + 1] == order[row];
+      if (nextIsRight) {
+        const auto place = std::find(order.begin(), order.end(), rows[row]) - order.begin();
+        move(row, static_cast<std::size_t>(place));
+      } else {
+        const auto place = std::find(rows.begin(), rows.end(), order[row]) - rows.begin();
+        move(static_cast<std::size_t>(place), row);
+      }
+    }
+  }
+}
+
+void insertNew(const Rows& rows, const Rows& after, std::vector<RowChange>& changes) {
+  const std::unordered_set<Uuid> there(rows.begin(), rows.end());
+  for (std::size_t begin = 0; begin < after.size(); ++begin) {
+    if (there.contains(after[begin])) continue;
+    std::size_t end = begin + 1;
+    while (end < after.size() && !there.contains(after[end])) ++end;
+    changes.push_back({Kind::insert, begin, end - begin, begin});
+    begin = end - 1;
+  }
+}
+
+}  // namespace
+
+std::vector<RowChange> rowChanges(const Rows& before, const Rows& after) {
+  std::vector<RowChange> changes;
+  if (before == after) return changes;
+  Rows rows = before;
+  removeGone(rows, after, changes);
+  moveStaying(rows, after, changes);
+  insertNew(rows, after, changes);
+  return changes;
+}
+
+}  // namespace brimle

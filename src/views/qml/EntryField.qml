@@ -1,0 +1,83 @@
+// The field for new tasks: it grows with its text, up to a part of the window, and then scrolls.
+import QtQuick
+import Brimle
+
+Rectangle {
+    id: field
+
+    required property Today today
+    required property real tallest
+
+    implicitHeight: scroller.height + 16
+    radius: 8
+    color: Theme.faded(Theme.primary, edit.activeFocus ? 0.08 : 0.05)
+
+    Symbol {
+        x: 10
+        y: 10
+        name: "plus"
+        size: 11
+        color: Theme.secondary
+    }
+
+    Flickable {
+        id: scroller
+        x: 28
+        y: 8
+        width: parent.width - 38
+        height: Math.min(edit.contentHeight, Math.max(field.tallest, edit.cursorRectangle.height))
+        contentWidth: width
+        contentHeight: edit.contentHeight
+        clip: contentHeight > height
+        interactive: contentHeight > height
+        boundsBehavior: Flickable.StopAtBounds
+
+        function showCaret() {
+            const caret = edit.cursorRectangle
+            if (caret.y < contentY) contentY = caret.y
+            else if (caret.y + caret.height > contentY + height) contentY = caret.y + caret.height - height
+        }
+
+        TextEdit {
+            id: edit
+            width: scroller.width
+            focus: true
+            textFormat: TextEdit.PlainText
+            wrapMode: TextEdit.Wrap
+            selectByMouse: true
+            color: Theme.primary
+            selectedTextColor: Theme.paper
+            selectionColor: Theme.faded(Theme.primary, 0.7)
+            font { family: Theme.fontFamily; pixelSize: Theme.baseSize }
+            onCursorRectangleChanged: scroller.showCaret()
+            Accessible.role: Accessible.EditableText
+            Accessible.name: Texts.of["Add a task"]
+
+            Text {
+                text: Texts.of["Add a task"]
+                textFormat: Text.PlainText
+                visible: edit.length === 0 && edit.preeditText.length === 0
+                color: Theme.placeholder
+                font: edit.font
+            }
+        }
+    }
+
+    ReturnKey {
+        field: edit
+        onCommit: (toTomorrow) => {
+            const draft = edit.text
+            edit.clear()
+            field.today.commit(draft, toTomorrow)
+        }
+    }
+
+    TapHandler {
+        onTapped: edit.forceActiveFocus()
+    }
+
+    Connections {
+        target: field.today
+        function onFocusAdd() { edit.forceActiveFocus() }
+    }
+}

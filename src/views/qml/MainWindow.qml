@@ -1,0 +1,38 @@
+// The window: frameless, its content under its own two buttons; the system moves and resizes it.
+import QtQuick
+import Brimle
+
+Window {
+    id: window
+
+    required property Today today
+
+    width: 300
+    height: 400
+    minimumWidth: 230
+    minimumHeight: 200
+    title: "Brimle"
+    color: Theme.paper
+    flags: Qt.Window | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
+
+    WindowMover {
+        anchors.fill: parent
+        target: window
+    }
+
+    TodayView {
+        anchors.fill: parent
+        today: window.today
+    }
+
+    WindowButtons {
+        x: 12
+        y: 11
+        target: window
+    }
+
+    WindowEdges {
+        anchors.fill: parent
+        target: window
+    }
+}

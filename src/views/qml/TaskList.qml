@@ -1,0 +1,41 @@
+// The rows of today's list. Rows that come, go and move do so on a spring; a swept row has slid out before its
+// neighbours close the gap.
+import QtQuick
+import Brimle
+
+ListView {
+    id: list
+
+    required property Today today
+
+    clip: true
+    model: today.tasks
+    boundsBehavior: Flickable.StopAtBounds
+    reuseItems: false
+    cacheBuffer: 400
+
+    Accessible.role: Accessible.List
+    Accessible.name: Texts.of["Task list"]
+
+    delegate: TaskRow {
+        width: ListView.view.width
+        onToggled: list.today.toggle(taskId)
+    }
+
+    add: Transition {
+        enabled: !Theme.reduceMotion
+        NumberAnimation { property: "opacity"; from: 0; to: 1; duration: 180 }
+    }
+    displaced: Transition {
+        enabled: !Theme.reduceMotion
+        SpringMove {}
+        // A row that is displaced while it still appears must not stay half seen.
+        NumberAnimation { property: "opacity"; to: 1; duration: 180 }
+    }
+    move: Transition {
+        enabled: !Theme.reduceMotion
+        SpringMove {}
+    }
+
+    ScrollMark { flickable: list }
+}

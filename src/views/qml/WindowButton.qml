@@ -1,0 +1,36 @@
+// One round button of the title strip.
+import QtQuick
+import Brimle
+
+Rectangle {
+    id: button
+
+    required property string symbol
+    required property string label
+    required property bool glyphShown
+    signal triggered
+
+    width: 12
+    height: 12
+    radius: 6
+    color: Theme.faded(Theme.primary, area.pressed ? 0.34 : 0.18)
+
+    Accessible.role: Accessible.Button
+    Accessible.name: label
+    Accessible.onPressAction: triggered()
+
+    Symbol {
+        anchors.fill: parent
+        visible: button.glyphShown
+        name: button.symbol
+        size: 12
+        color: Theme.primary
+    }
+
+    MouseArea {
+        id: area
+        anchors.fill: parent
+        anchors.margins: -3
+        onClicked: button.triggered()
+    }
+}

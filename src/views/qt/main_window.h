@@ -1,0 +1,51 @@
+// The main window: loads its QML, forwards the keys that belong to the whole window, shows and hides it.
+// Owns the objects that QML sees; knows the logic only through ContentView and Store.
+#pragma once
+
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+#include <functional>
+#include <memory>
+
+#include "platform/pasteboard.h"
+#include "views/qt/texts.h"
+#include "views/qt/theme.h"
+#include "views/qt/today.h"
+
+namespace brimle {
+
+class MainWindow : public QObject {
+  Q_OBJECT
+
+ public:
+  /// All references must outlive the window.
+  MainWindow(Store& store, ContentView& view, UIState& ui, Pasteboard& pasteboard);
+  ~MainWindow() override;
+
+  Theme& theme() { return theme_; }
+
+  /// Shows the window, in front of others and with the keyboard in the entry field.
+  void bringForward(const QByteArray& activationToken = {});
+
+  /// What closing does beyond hiding the window; nothing unless set.
+  void onClose(std::function<void()> action) { closed_ = std::move(action); }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  bool handleKey(const QKeyEvent& event);
+  bool pasteAsTasks();
+  bool fieldTakes(const char* property) const;
+
+  Store& store_;
+  Pasteboard& pasteboard_;
+  Theme theme_;
+  Texts texts_;
+  Today today_;
+  QQmlApplicationEngine engine_;
+  QQuickWindow* window_ = nullptr;
+  std::function<void()> closed_;
+};
+
+}  // namespace brimle

@@ -1,0 +1,43 @@
+// The interface texts for QML: a map from each English text to the one in the current language.
+// Example: Texts.of["Add a task"]. The map is replaced when the language changes, so that bindings follow.
+#pragma once
+
+#include <QJSEngine>
+#include <QObject>
+#include <QQmlEngine>
+#include <QVariantMap>
+#include <QtQml/qqmlregistration.h>
+
+#include "base/signal.h"
+#include "prefs/ui_state.h"
+
+namespace brimle {
+
+class Texts : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_SINGLETON
+  Q_PROPERTY(QVariantMap of READ of NOTIFY changed)
+
+ public:
+  /// `ui` must outlive the texts.
+  explicit Texts(UIState& ui);
+  ~Texts() override;
+
+  /// The instance that QML gets; the program keeps it.
+  static Texts* create(QQmlEngine*, QJSEngine*);
+
+  const QVariantMap& of() const { return texts_; }
+
+ signals:
+  void changed();
+
+ private:
+  void refresh(const UIState& ui);
+
+  std::string language_;
+  QVariantMap texts_;
+  Subscription settings_;
+};
+
+}  // namespace brimle

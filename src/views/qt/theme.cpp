@@ -1,0 +1,94 @@
+#include "views/qt/theme.h"
+
+#include <QFontDatabase>
+#include <QGuiApplication>
+
+#include "views/qt/convert.h"
+#include "views/spring.h"
+
+namespace brimle {
+namespace {
+
+/// Rows that come, go and move.
+constexpr Spring kListSpring{0.3, 0.8};
+/// The tick filling its ring.
+constexpr Spring kTickSpring{0.25, 0.6};
+
+Theme* instance = nullptr;
+
+QVariantList curveOf(const Spring& spring) {
+  QVariantList list;
+  for (const double number : spring.bezier()) list.append(number);
+  return list;
+}
+
+int milliseconds(const Spring& spring) { return qRound(spring.duration() * 1000); }
+
+QColor labelColor(Palette::Label rank, Appearance appearance) {
+  return toQt(Palette::label(rank, appearance, false));
+}
+
+/// Typefaces with round ends, the one to prefer first; the plain one where none is installed.
+constexpr const char* kRoundedFamilies[] = {"Nunito", "Quicksand", "Varela Round", "M PLUS Rounded 1c", "Comfortaa"};
+
+QString roundedFamily() {
+  const QStringList installed = QFontDatabase::families();
+  for (const char* family : kRoundedFamilies) {
+    if (installed.contains(QLatin1String(family))) return QLatin1String(family);
+  }
+  return QGuiApplication::font().family();
+}
+
+}  // namespace
+
+Theme::Theme(UIState& ui) : ui_(ui), settings_(ui.observe([this] { emit changed(); })) { instance = this; }
+
+Theme::~Theme() { instance = nullptr; }
+
+Theme* Theme::create(QQmlEngine*, QJSEngine*) {
+  QJSEngine::setObjectOwnership(instance, QJSEngine::CppOwnership);
+  return instance;
+}
+
+void Theme::setAppearance(Appearance appearance) {
+  if (appearance_ == appearance) return;
+  appearance_ = appearance;
+  emit changed();
+}
+
+void Theme::setReduceMotion(bool reduce) {
+  if (reduceMotion_ == reduce) return;
+  reduceMotion_ = reduce;
+  emit changed();
+}
+
+QColor Theme::paper() const { return toQt(Palette::paper(appearance_)); }
+QColor Theme::pencilRed() const { return toQt(Palette::pencilRed(appearance_)); }
+QColor Theme::highlight() const { return toQt(Palette::highlight(appearance_)); }
+QColor Theme::selection() const { return toQt(Palette::selection(appearance_)); }
+QColor Theme::primary() const { return labelColor(Palette::Label::primary, appearance_); }
+QColor Theme::secondary() const { return labelColor(Palette::Label::secondary, appearance_); }
+QColor Theme::tertiary() const { return labelColor(Palette::Label::tertiary, appearance_); }
+QColor Theme::placeholder() const { return labelColor(Palette::Label::placeholder, appearance_); }
+
+QString Theme::fontFamily() const {
+  switch (ui_.design()) {
+    case FontDesign::serif: return QStringLiteral("serif");
+    case FontDesign::rounded: return roundedFamily();
+    case FontDesign::standard: break;
+  }
+  return QGuiApplication::font().family();
+}
+
+QVariantList Theme::listSpring() const { return curveOf(kListSpring); }
+int Theme::listSpringDuration() const { return milliseconds(kListSpring); }
+QVariantList Theme::tickSpring() const { return curveOf(kTickSpring); }
+int Theme::tickSpringDuration() const { return milliseconds(kTickSpring); }
+
+QColor Theme::faded(const QColor& color, double opacity) {
+  QColor result = color;
+  result.setAlphaF(static_cast<float>(color.alphaF() * opacity));
+  return result;
+}
+
+}  // namespace brimle

@@ -1,0 +1,81 @@
+// The one theme of the QML views: colours for the appearance in force, sizes, fonts and motion.
+// A singleton made by the program before the window; QML reads it and never sets it.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QJSEngine>
+#include <QObject>
+#include <QQmlEngine>
+#include <QVariantList>
+#include <QtQml/qqmlregistration.h>
+
+#include "base/signal.h"
+#include "prefs/palette.h"
+#include "prefs/ui_state.h"
+
+namespace brimle {
+
+class Theme : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_SINGLETON
+  Q_PROPERTY(QColor paper READ paper NOTIFY changed)
+  Q_PROPERTY(QColor pencilRed READ pencilRed NOTIFY changed)
+  Q_PROPERTY(QColor highlight READ highlight NOTIFY changed)
+  Q_PROPERTY(QColor selection READ selection NOTIFY changed)
+  Q_PROPERTY(QColor primary READ primary NOTIFY changed)
+  Q_PROPERTY(QColor secondary READ secondary NOTIFY changed)
+  Q_PROPERTY(QColor tertiary READ tertiary NOTIFY changed)
+  Q_PROPERTY(QColor placeholder READ placeholder NOTIFY changed)
+  Q_PROPERTY(QString fontFamily READ fontFamily NOTIFY changed)
+  Q_PROPERTY(double baseSize READ baseSize NOTIFY changed)
+  Q_PROPERTY(double listInset READ listInset NOTIFY changed)
+  Q_PROPERTY(bool reduceMotion READ reduceMotion NOTIFY changed)
+  Q_PROPERTY(QVariantList listSpring READ listSpring CONSTANT)
+  Q_PROPERTY(int listSpringDuration READ listSpringDuration CONSTANT)
+  Q_PROPERTY(QVariantList tickSpring READ tickSpring CONSTANT)
+  Q_PROPERTY(int tickSpringDuration READ tickSpringDuration CONSTANT)
+
+ public:
+  /// `ui` must outlive the theme.
+  explicit Theme(UIState& ui);
+  ~Theme() override;
+
+  /// The instance that QML gets; the program keeps it.
+  static Theme* create(QQmlEngine*, QJSEngine*);
+
+  void setAppearance(Appearance appearance);
+  void setReduceMotion(bool reduce);
+
+  QColor paper() const;
+  QColor pencilRed() const;
+  QColor highlight() const;
+  QColor selection() const;
+  QColor primary() const;
+  QColor secondary() const;
+  QColor tertiary() const;
+  QColor placeholder() const;
+  QString fontFamily() const;
+  double baseSize() const { return ui_.baseSize(); }
+  double listInset() const { return ui_.listInset(); }
+  bool reduceMotion() const { return reduceMotion_; }
+  QVariantList listSpring() const;
+  int listSpringDuration() const;
+  QVariantList tickSpring() const;
+  int tickSpringDuration() const;
+
+  /// A colour at a share of its opacity.
+  Q_INVOKABLE static QColor faded(const QColor& color, double opacity);
+
+ signals:
+  void changed();
+
+ private:
+  UIState& ui_;
+  Subscription settings_;
+  Appearance appearance_ = Appearance::light;
+  bool reduceMotion_ = false;
+};
+
+}  // namespace brimle

@@ -1,0 +1,42 @@
+#include "base/text.h"
+#include "model/store_fixture.h"
+
+namespace brimle {
+namespace {
+
+using AddLines = StoreTest;
+
+TEST_F(AddLines, FilesEachTaskWhereItBelongs) {
+  expect({
+      {"P! A+", "add a !\nb\nc !\nd", "c'! a'! P! A+ b' d'"},
+      {"A | T", "later a !\nd >20/6\nb *w\n c", "A | T a'! b'*%/c | 20:d'!"},
+      {"A | | 19:R 21:S 21:T", "add a >21/6\nb >20/6\nc >21/6", "A |  | 19:R 20:b'! 21:S 21:T 21:a'! 21:c'!"},
+      {"A", "add a // n // m\r\n\t- o\r\n- [ ]\u2028b", "A a'/n/m/o [ ]' b'"},
+      {"A", "add a >20/6\nb\nc !; undo", "A"},
+  });
+}
+
+TEST_F(AddLines, TakesAnyBytesAndSavesThemReadably) {
+  std::string lines;
+  for (int line = 0; line < 100'000; ++line) lines += "- task // note !\n";
+  const std::pair<std::string, std::size_t> table[] = {
+      {std::string("a\0b\n\0", 6), 2},
+      {"\xFF\n\x80 !\n\xC0\xAF\n\xED\xA0\x80 // \xF4\x90\x80\x80\ncut \xF0\x9F\x98", 5},
+      {std::string(10'000'000, 'x'), 1},
+      {std::string(5'000'000, '\xFF'), 1},
+      {lines, 100'000},
+  };
+  for (const auto& [text, tasks] : table) {
+    open(document(""));
+    store->addLines(text, false);
+    EXPECT_EQ(store->items().size(), tasks);
+    EXPECT_EQ(storeLog, "save told-items ");
+    const Lists added = store->lists();
+    for (const TodoItem& item : added.items) ASSERT_TRUE(isValidUtf8(item.text) && !item.text.empty());
+    reopen();
+    EXPECT_TRUE(store->lists() == added);
+  }
+}
+
+}  // namespace
+}  // namespace brimle

@@ -1,0 +1,104 @@
+#include "i18n/i18n.h"
+#include "model/data_folder.h"
+#include "model/store_fixture.h"
+
+namespace brimle {
+namespace {
+
+class StoreLoad : public StoreTest {
+ protected:
+  bool backedUp(const std::string& bytes) {
+    const auto names = files.list(kBackups).value_or(std::vector<std::string>{});
+    return std::ranges::any_of(names, [&](const auto& name) { return files.read(kBackups / name) == bytes; });
+  }
+};
+
+TEST_F(StoreLoad, StartsWithFourTasksAndWritesNothingBeforeTheFirstChange) {
+  for (const auto* language : {"en", "de"}) {
+    I18n::setLang(language);
+    files = LoggedFiles();
+    reopen();
+    std::string expected;
+    for (const auto* key : {"Tick this task to see it filed away", "Drag me to the top",
+                            "Double-click a task to edit it", "Right-click a task for everything else"}) {
+      expected += std::string(I18n::t(key)) + "' ";
+    }
+    expected.back() = '/';
+    expected += I18n::t("Notes sit underneath — try typing: milk // eggs // bread");
+    EXPECT_EQ(state(), expected);
+    EXPECT_FALSE(files.exists(kFile));
+    run("add a");
+    EXPECT_EQ(state(), expected + " a'");
+  }
+  I18n::setLang("en");
+}
+
+TEST_F(StoreLoad, KeepsTheBytesOfAFileItCannotRead) {
+  const std::string good = document("A");
+  for (const std::string& bytes :
+       {std::string(), good.substr(0, 40), good + '\0', std::string("{\"date\":7,\"items\":[]}"),
+        std::string("\xFF\xFE"), std::string(200'000, '[')}) {
+    for (const bool hasBackup : {false, true}) {
+      files = LoggedFiles();
+      if (hasBackup) files.put(kBackups / "today-2026-06-15.json", good);
+      files.put(kFile, bytes);
+      reopen();
+      reopen();
+      EXPECT_EQ(store->items().size(), 4u);
+      EXPECT_TRUE(files.read(kFile) == bytes && backedUp(bytes) && backedUp(good) == hasBackup);
+      EXPECT_EQ(files.list(kBackups)->size(), hasBackup ? 2u : 1u) << "the same bytes are kept once";
+      run("add a; reopen");
+      EXPECT_EQ(store->items().size(), 5u);
+      EXPECT_TRUE(backedUp(bytes));
+    }
+  }
+}
+
+TEST_F(StoreLoad, NeverWritesOverWhatNoBackupHolds) {
+  for (bool MemoryFiles::*fault : {&MemoryFiles::diskFull, &MemoryFiles::unavailable}) {
+    const std::string bytes = fault == &MemoryFiles::diskFull ? "broken" : document("A");
+    files = LoggedFiles();
+    files.put(kFile, bytes);
+    files.*fault = true;
+    reopen();
+    run("add a; wait 1");
+    files.*fault = false;
+    EXPECT_EQ(files.read(kFile), bytes);
+    run("add b");
+    EXPECT_EQ(store->items().size(), 6u);
+    EXPECT_TRUE(backedUp(bytes)) << "even where the file came back with its disk";
+  }
+  files = LoggedFiles();
+  files.put(kFile / "in a folder of that name", "x");
+  reopen();
+  run("add a");
+  EXPECT_EQ(files.list(kBackups)->size(), 1u);
+}
+
+TEST_F(StoreLoad, GoesOnInMemoryWhileFilesCannotBeWritten) {
+  for (bool MemoryFiles::*fault : {&MemoryFiles::diskFull, &MemoryFiles::unavailable}) {
+    open(document("A"));
+    files.*fault = true;
+    run("add b; wait 1; add c; wait 1");
+    EXPECT_EQ(state(), "A b' c'");
+    files.*fault = false;
+    EXPECT_EQ(files.read(kFile), document("A"));
+    run("undo");
+    EXPECT_EQ(state(), "A b'");
+  }
+}
+
+TEST(DataFolder, IsFoundOrMovedOrMade) {
+  const Path own = "/support/Brimle", predecessors = "/support/Quorel";
+  for (const std::string present : {"", "Quorel", "Brimle", "Brimle Quorel"}) {
+    MemoryFiles files;
+    for (const auto& name : split(present, ' ')) files.put(Path("/support") / name / "today.json", name);
+    EXPECT_EQ(locateDataFolder(files, "/support"), own);
+    EXPECT_TRUE(files.exists(own));
+    EXPECT_EQ(files.read(own / "today.json").value_or(""), present.substr(0, 6));
+    EXPECT_EQ(files.exists(predecessors), present == "Brimle Quorel");
+  }
+}
+
+}  // namespace
+}  // namespace brimle
