@@ -57,6 +57,11 @@ const Row kRows[] = {
     {"add 1,000 lines / bare save", kAddLines, 10, kRatio, {}},
     {"rollover and backup / bare save", kRollover, 10, kRatio, {}},
     {"undo step / bare save", kUndo, 10, kRatio, {}},
+    {"search / bare search", kSearch, 10, kRatio, 3},
+    {"search / bare search", kSearch, 50, kRatio, 3},
+    {"search, slowest query", kSearch, 10, kOwnTime, {}},
+    {"search, slowest query", kSearch, 50, kOwnTime, 8},
+    {"search, folding once", kPrepareSearch, 50, kTime, {}},
 };
 
 /// Rows may share a benchmark; it is measured once.

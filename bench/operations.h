@@ -34,4 +34,8 @@ extern const Operation kEncodeGrowth;  ///< the same, against an archive of one 
 extern const Operation kUndoMemory;    ///< the bytes that a hundred steps hold which each change the archive
 extern const Operation kLoad;  ///< the day file's bytes to records, against a deep copy of the archive's
 
+// The archive's search (bench_search.cpp), once it is prepared; the slowest of several queries.
+extern const Operation kSearch;  ///< against finding the query in the same folded bytes; its own seconds too
+extern const Operation kPrepareSearch;  ///< folding all texts once; its real time counts
+
 }  // namespace brimle::bench

@@ -91,9 +91,8 @@ int run(int argc, char** argv) {
 
   const auto appearance = preferences.string("appearance");
   const bool systemIsDark = QApplication::palette().window().color().lightness() < 128;
-  mainWindow.theme().setAppearance(appearance == "dark" || (appearance != "light" && systemIsDark)
-                                       ? Appearance::dark
-                                       : Appearance::light);
+  mainWindow.theme().setAppearance(
+      appearance == "dark" || (appearance != "light" && systemIsDark) ? Appearance::dark : Appearance::light);
   // A window that nobody can ask for again must not be closed into nowhere.
   if (!reachable) mainWindow.onClose([] { QCoreApplication::quit(); });
   QObject::connect(&application, &QApplication::applicationStateChanged, &application, [&](auto state) {

@@ -1,10 +1,12 @@
 #include "base/text.h"
 
 #include <unicode/normalizer2.h>
+#include <unicode/uchar.h>
 #include <unicode/unistr.h>
 #include <unicode/utf8.h>
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 
 namespace brimle {
@@ -15,11 +17,16 @@ bool isSpace(UChar32 c) {
          c == 0x205F || c == 0x3000;
 }
 
-bool isNewline(UChar32 c) { return (c >= 0x0A && c <= 0x0D) || c == 0x85 || c == 0x2028 || c == 0x2029; }
+bool isNewline(UChar32 c) {
+  return (c >= 0x0A && c <= 0x0D) || c == 0x85 || c == 0x2028 || c == 0x2029;
+}
 
-bool isSpaceOrNewline(UChar32 c) { return isSpace(c) || isNewline(c); }
+bool isSpaceOrNewline(UChar32 c) {
+  return isSpace(c) || isNewline(c);
+}
 
-/// Steps `at` back over one code point, which it gives; a byte of an ill-formed sequence is one step and negative.
+/// Steps `at` back over one code point, which it gives; a byte of an ill-formed sequence is one step and
+/// negative.
 UChar32 previousCodePoint(const std::uint8_t* bytes, std::size_t begin, std::size_t& at) {
   const std::size_t end = at;
   std::size_t start = end - 1;
@@ -68,12 +75,6 @@ icu::UnicodeString toUtf16(std::string_view text) {
   return icu::UnicodeString::fromUTF8(icu::StringPiece(text.data(), static_cast<std::int32_t>(length)));
 }
 
-std::string toUtf8(const icu::UnicodeString& text) {
-  std::string bytes;
-  text.toUTF8String(bytes);
-  return bytes;
-}
-
 const icu::Normalizer2* composer() {
   UErrorCode status = U_ZERO_ERROR;
   const auto* instance = icu::Normalizer2::getNFCInstance(status);
@@ -90,10 +91,16 @@ icu::UnicodeString composed(const icu::UnicodeString& text) {
 
 }  // namespace
 
-std::string_view trimmed(std::string_view text) { return trim(text, isSpace); }
-std::string_view trimmedLines(std::string_view text) { return trim(text, isSpaceOrNewline); }
+std::string_view trimmed(std::string_view text) {
+  return trim(text, isSpace);
+}
+std::string_view trimmedLines(std::string_view text) {
+  return trim(text, isSpaceOrNewline);
+}
 
-bool containsNewline(std::string_view text) { return findNewline(text, 0).second != 0; }
+bool containsNewline(std::string_view text) {
+  return findNewline(text, 0).second != 0;
+}
 
 std::vector<std::string_view> splitLines(std::string_view text) {
   std::vector<std::string_view> lines;
@@ -139,9 +146,28 @@ bool canonicallyEqual(std::string_view a, std::string_view b) {
   return composed(toUtf16(a)) == composed(toUtf16(b));
 }
 
+void appendFolded(std::string& out, std::string_view text) {
+  if (!isAscii(text)) {
+    // Folding can undo composition, so the result is composed once more.
+    composed(composed(toUtf16(text)).foldCase()).toUTF8String(out);
+    return;
+  }
+  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; };
+  std::transform(text.begin(), text.end(), std::back_inserter(out), lower);
+}
+
 std::string folded(std::string_view text) {
-  // Folding can undo composition, so the result is composed once more.
-  return toUtf8(composed(composed(toUtf16(text)).foldCase()));
+  std::string result;
+  appendFolded(result, text);
+  return result;
+}
+
+bool startsWithMark(std::string_view text) {
+  if (text.empty() || static_cast<signed char>(text.front()) >= 0) return false;
+  UChar32 c;
+  std::size_t at = 0;
+  U8_NEXT(reinterpret_cast<const std::uint8_t*>(text.data()), at, text.size(), c);
+  return c >= 0 && (U_GET_GC_MASK(c) & U_GC_M_MASK) != 0;
 }
 
 }  // namespace brimle

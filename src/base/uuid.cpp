@@ -10,7 +10,9 @@ namespace {
 constexpr char kDigits[] = "0123456789ABCDEF";
 constexpr std::size_t kLength = 36;
 
-constexpr bool isHyphenAt(std::size_t index) { return index == 8 || index == 13 || index == 18 || index == 23; }
+constexpr bool isHyphenAt(std::size_t index) {
+  return index == 8 || index == 13 || index == 18 || index == 23;
+}
 
 /// The value of each byte as a hexadecimal digit, or -1.
 constexpr std::array<std::int8_t, 256> kValues = [] {
@@ -23,7 +25,9 @@ constexpr std::array<std::int8_t, 256> kValues = [] {
   return values;
 }();
 
-int valueOf(char digit) { return kValues[static_cast<unsigned char>(digit)]; }
+int valueOf(char digit) {
+  return kValues[static_cast<unsigned char>(digit)];
+}
 
 void fillRandom(std::array<std::uint8_t, 16>& bytes) {
   if (getrandom(bytes.data(), bytes.size(), 0) == static_cast<ssize_t>(bytes.size())) return;

@@ -28,8 +28,8 @@ struct Entry {
 /// Reads one line (no line breaks in it). Nothing where it is blank.
 std::optional<Entry> parseEntry(std::string_view line, const EntryContext& context);
 
-/// Reads a block of typed, pasted or dropped text: strips one list bullet a line, takes indented lines as notes
-/// of the task above, and parses every other line.
+/// Reads a block of typed, pasted or dropped text: strips one list bullet a line, takes indented lines as
+/// notes of the task above, and parses every other line.
 std::vector<Entry> parseLines(std::string_view text, const EntryContext& context);
 
 }  // namespace brimle

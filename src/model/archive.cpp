@@ -1,8 +1,10 @@
 #include "model/archive.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
+#include "model/folded_entries.h"
 #include "model/json_writer.h"
 
 namespace brimle {
@@ -16,41 +18,59 @@ constexpr std::size_t kBlockDays = 32;
 
 struct Archive::Block {
   std::vector<std::shared_ptr<const ArchiveDay>> days;
-  std::string json;            ///< each day's element with a comma before it
-  std::size_t frontLength = 0;  ///< how much of `json` is the first day's
+  std::string json;                     ///< each day's element with a comma before it
+  std::vector<std::uint32_t> jsonEnds;  ///< where each day ends in `json`
+  /// What a search compares, entry by entry; made when it is first needed.
+  mutable std::optional<FoldedEntries> folded;
 
-  /// A new first day, before the days of `rest` from `skip` on.
-  static BlockPtr make(ArchiveDay front, const Block* rest, std::size_t skip) {
-    auto block = std::make_shared<Block>();
-    std::string_view restJson;
-    if (rest) restJson = std::string_view(rest->json).substr(skip == 0 ? 0 : rest->frontLength);
-    block->json.reserve(restJson.size() + 128 * (front.items.size() + 1));
-    block->json += ',';
-    json::append(block->json, front);
-    block->frontLength = block->json.size();
-    block->json += restJson;
-    block->days.reserve(1 + (rest ? rest->days.size() - skip : 0));
-    block->days.push_back(std::make_shared<const ArchiveDay>(std::move(front)));
-    if (rest) {
-      block->days.insert(block->days.end(), rest->days.begin() + static_cast<std::ptrdiff_t>(skip),
-                         rest->days.end());
+  const FoldedEntries& searchable() const {
+    if (folded) return *folded;
+    folded.emplace();
+    for (const auto& day : days) {
+      for (const ArchivedItem& entry : day->items) folded->add(entry);
     }
-    block->json.shrink_to_fit();
-    return block;
+    return *folded;
+  }
+};
+
+/// Makes a block of new days and of days that another block has, whose work is taken over as it is.
+class Archive::BlockBuilder {
+ public:
+  /// Where `source` was searched, the new block is made ready for it too.
+  explicit BlockBuilder(const Block* source = nullptr) {
+    if (source && source->folded) block_->folded.emplace();
   }
 
-  static BlockPtr make(std::span<ArchiveDay> days) {
-    auto block = std::make_shared<Block>();
-    block->days.reserve(days.size());
-    for (ArchiveDay& day : days) {
-      block->json += ',';
-      json::append(block->json, day);
-      if (block->days.empty()) block->frontLength = block->json.size();
-      block->days.push_back(std::make_shared<const ArchiveDay>(std::move(day)));
+  void add(ArchiveDay day) {
+    block_->json += ',';
+    json::append(block_->json, day);
+    if (block_->folded) {
+      for (const ArchivedItem& entry : day.items) block_->folded->add(entry);
     }
-    block->json.shrink_to_fit();
-    return block;
+    finishDay(std::make_shared<const ArchiveDay>(std::move(day)));
   }
+
+  /// Adds a day of the block; `firstEntry` counts the entries of the days before it there.
+  void add(const Block& from, std::size_t day, std::size_t firstEntry) {
+    const std::size_t begin = day == 0 ? 0 : from.jsonEnds[day - 1];
+    block_->json += std::string_view(from.json).substr(begin, from.jsonEnds[day] - begin);
+    if (block_->folded) block_->folded->add(*from.folded, firstEntry, from.days[day]->items.size());
+    finishDay(from.days[day]);
+  }
+
+  bool empty() const { return block_->days.empty(); }
+  std::shared_ptr<const Block> build() {
+    block_->json.shrink_to_fit();
+    return std::move(block_);
+  }
+
+ private:
+  void finishDay(std::shared_ptr<const ArchiveDay> day) {
+    block_->days.push_back(std::move(day));
+    block_->jsonEnds.push_back(static_cast<std::uint32_t>(block_->json.size()));
+  }
+
+  std::shared_ptr<Block> block_ = std::make_shared<Block>();
 };
 
 Archive::Archive(std::vector<ArchiveDay> days) {
@@ -59,14 +79,20 @@ Archive::Archive(std::vector<ArchiveDay> days) {
   while (!rest.empty()) {
     const std::size_t partial = rest.size() % kBlockDays;
     const std::size_t count = partial > 0 ? partial : kBlockDays;
-    blocks_.push_back(Block::make(rest.first(count)));
+    BlockBuilder block;
+    for (ArchiveDay& day : rest.first(count)) block.add(std::move(day));
+    blocks_.push_back(block.build());
     rest = rest.subspan(count);
   }
 }
 
-const ArchiveDay& Archive::Iterator::operator*() const { return *node(); }
+const ArchiveDay& Archive::Iterator::operator*() const {
+  return *node();
+}
 
-const std::shared_ptr<const ArchiveDay>& Archive::Iterator::node() const { return (*block_)->days[day_]; }
+const std::shared_ptr<const ArchiveDay>& Archive::Iterator::node() const {
+  return (*block_)->days[day_];
+}
 
 Archive::Iterator& Archive::Iterator::operator++() {
   if (++day_ == (*block_)->days.size()) {
@@ -100,22 +126,82 @@ std::size_t Archive::dayCount() const {
   return count;
 }
 
+/// A block with a new first day before the days of `rest` from `skip` on.
+Archive::BlockPtr Archive::withFront(ArchiveDay front, const Block* rest, std::size_t skip) {
+  BlockBuilder block(rest);
+  block.add(std::move(front));
+  std::size_t firstEntry = 0;
+  for (std::size_t day = 0; rest && day < rest->days.size(); ++day) {
+    if (day >= skip) block.add(*rest, day, firstEntry);
+    firstEntry += rest->days[day]->items.size();
+  }
+  return block.build();
+}
+
 Archive Archive::withEntries(const std::string& date, std::vector<ArchivedItem> entries) const {
   Archive result = *this;
   if (!empty() && front().date == date) {
     ArchiveDay day = front();
     day.items.insert(day.items.end(), std::make_move_iterator(entries.begin()),
                      std::make_move_iterator(entries.end()));
-    result.blocks_.front() = Block::make(std::move(day), blocks_.front().get(), 1);
+    result.blocks_.front() = withFront(std::move(day), blocks_.front().get(), 1);
     return result;
   }
   ArchiveDay day{date, std::move(entries)};
   if (!empty() && blocks_.front()->days.size() < kBlockDays) {
-    result.blocks_.front() = Block::make(std::move(day), blocks_.front().get(), 0);
+    result.blocks_.front() = withFront(std::move(day), blocks_.front().get(), 0);
   } else {
-    result.blocks_.insert(result.blocks_.begin(), Block::make(std::move(day), nullptr, 0));
+    result.blocks_.insert(result.blocks_.begin(), withFront(std::move(day), nullptr, 0));
   }
   return result;
+}
+
+/// The block without the entries among the ids and without empty days; itself where nothing goes, none where
+/// nothing stays.
+Archive::BlockPtr Archive::blockWithout(const BlockPtr& block, const std::unordered_set<Uuid>& ids,
+                                        std::vector<ArchivedItem>& removed) {
+  const auto goes = [&](const ArchivedItem& entry) { return ids.contains(entry.id); };
+  const auto changes = [&](const auto& day) {
+    return day->items.empty() || std::any_of(day->items.begin(), day->items.end(), goes);
+  };
+  if (std::none_of(block->days.begin(), block->days.end(), changes)) return block;
+  BlockBuilder rest(block.get());
+  std::size_t firstEntry = 0;
+  for (std::size_t index = 0; index < block->days.size(); ++index) {
+    const auto& day = block->days[index];
+    if (changes(day)) {
+      ArchiveDay thinned{day->date, {}};
+      for (const ArchivedItem& entry : day->items) (goes(entry) ? removed : thinned.items).push_back(entry);
+      if (!thinned.items.empty()) rest.add(std::move(thinned));
+    } else {
+      rest.add(*block, index, firstEntry);
+    }
+    firstEntry += day->items.size();
+  }
+  return rest.empty() ? nullptr : rest.build();
+}
+
+Archive Archive::without(const std::unordered_set<Uuid>& ids, std::vector<ArchivedItem>& removed) const {
+  Archive result;
+  for (const BlockPtr& block : blocks_) {
+    if (auto rest = blockWithout(block, ids, removed)) result.blocks_.push_back(std::move(rest));
+  }
+  return result;
+}
+
+std::vector<Uuid> Archive::matchingIDs(std::string_view query) const {
+  std::vector<Uuid> ids;
+  for (const BlockPtr& block : blocks_) block->searchable().find(query, ids);
+  return ids;
+}
+
+bool Archive::prepareSearch(std::size_t most) const {
+  for (const BlockPtr& block : blocks_) {
+    if (block->folded) continue;
+    if (most-- == 0) return false;
+    block->searchable();
+  }
+  return true;
 }
 
 void Archive::appendEncoded(std::vector<std::string_view>& pieces) const {

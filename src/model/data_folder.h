@@ -1,5 +1,5 @@
-// Where the task data lives: the folder "Brimle" of the user's application-support directory. A folder left by
-// the predecessor, "Quorel", is moved there once.
+// Where the task data lives: the folder "Brimle" of the user's application-support directory. A folder left
+// by the predecessor, "Quorel", is moved there once.
 #pragma once
 
 #include "platform/files.h"

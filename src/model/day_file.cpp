@@ -24,7 +24,9 @@ bool read(dom::element value, std::string& out) {
   return true;
 }
 
-bool read(dom::element value, bool& out) { return value.get(out) == simdjson::SUCCESS; }
+bool read(dom::element value, bool& out) {
+  return value.get(out) == simdjson::SUCCESS;
+}
 
 bool read(dom::element value, Uuid& out) {
   std::string_view text;
@@ -77,8 +79,8 @@ bool read(dom::element value, std::vector<Record>& out) {
   return true;
 }
 
-/// Calls `field(key, value)` for every field that is not null, which counts as absent. False where the value is
-/// no object or a field was refused.
+/// Calls `field(key, value)` for every field that is not null, which counts as absent. False where the value
+/// is no object or a field was refused.
 template <class ReadField>
 bool readObject(dom::element value, ReadField field) {
   dom::object object;

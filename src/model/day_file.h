@@ -1,8 +1,9 @@
 // The day file: all task data as one JSON document, and back.
 //
-// Reading takes bytes and gives the whole document or nothing: one bad record anywhere rejects the file. It takes
-// keys in any order, ignores unknown ones, and reads two keys of older files: "pinned" for "repeats", "note" for
-// "notes". Writing gives the pieces of the document in order. The codec touches no file and no other state.
+// Reading takes bytes and gives the whole document or nothing: one bad record anywhere rejects the file. It
+// takes keys in any order, ignores unknown ones, and reads two keys of older files: "pinned" for "repeats",
+// "note" for "notes". Writing gives the pieces of the document in order. The codec touches no file and no
+// other state.
 #pragma once
 
 #include <cstdint>
@@ -33,10 +34,12 @@ struct DayFile {
   Lists lists;
 };
 
-/// Reads a document of any size. No copy of the bytes is made where the string has 64 bytes of spare capacity.
+/// Reads a document of any size. No copy of the bytes is made where the string has 64 bytes of spare
+/// capacity.
 std::optional<DayFile> readDayFile(const std::string& bytes);
 
-/// A document ready to be written: pieces in order. It views the archive it was made from, which must outlive it.
+/// A document ready to be written: pieces in order. It views the archive it was made from, which must outlive
+/// it.
 class EncodedDayFile {
  public:
   EncodedDayFile(const std::string& date, const Lists& lists);

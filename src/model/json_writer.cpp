@@ -8,10 +8,13 @@
 namespace brimle::json {
 namespace {
 
-bool isPlain(char c) { return static_cast<signed char>(c) >= 0x20 && c != '"' && c != '\\'; }
+bool isPlain(char c) {
+  return static_cast<signed char>(c) >= 0x20 && c != '"' && c != '\\';
+}
 
-/// True where all eight bytes are ASCII that stands for itself in a JSON string. The usual tricks on bytes in a
-/// word: a byte below 0x20 borrows from its top bit; a byte equal to c becomes zero under xor and borrows from 1.
+/// True where all eight bytes are ASCII that stands for itself in a JSON string. The usual tricks on bytes in
+/// a word: a byte below 0x20 borrows from its top bit; a byte equal to c becomes zero under xor and borrows
+/// from 1.
 bool arePlain(const char* eightBytes) {
   constexpr std::uint64_t ones = 0x0101010101010101;
   constexpr std::uint64_t tops = 0x8080808080808080;
@@ -33,11 +36,21 @@ std::size_t plainLength(std::string_view text) {
 void appendEscaped(std::string& out, char c) {
   constexpr char digits[] = "0123456789abcdef";
   switch (c) {
-    case '"': out += "\\\""; break;
-    case '\\': out += "\\\\"; break;
-    case '\n': out += "\\n"; break;
-    case '\t': out += "\\t"; break;
-    case '\r': out += "\\r"; break;
+    case '"':
+      out += "\\\"";
+      break;
+    case '\\':
+      out += "\\\\";
+      break;
+    case '\n':
+      out += "\\n";
+      break;
+    case '\t':
+      out += "\\t";
+      break;
+    case '\r':
+      out += "\\r";
+      break;
     default:
       out += "\\u00";
       out += digits[(c >> 4) & 0x0F];
@@ -45,7 +58,9 @@ void appendEscaped(std::string& out, char c) {
   }
 }
 
-bool needsEscape(char c) { return static_cast<unsigned char>(c) < 0x20 || c == '"' || c == '\\'; }
+bool needsEscape(char c) {
+  return static_cast<unsigned char>(c) < 0x20 || c == '"' || c == '\\';
+}
 
 void appendValidated(std::string& out, std::string_view text) {
   std::size_t copied = 0;

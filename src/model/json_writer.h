@@ -1,6 +1,6 @@
 // Writes the records as compact JSON (RFC 8259) with the day file's fixed key order.
-// Every key is written every time. Text that is not valid UTF-8 is repaired on the way, so that what is written
-// can always be read. Example: {"id":"1B4E…","text":"Buy milk","done":false, … ,"clearedToday":false}
+// Every key is written every time. Text that is not valid UTF-8 is repaired on the way, so that what is
+// written can always be read. Example: {"id":"1B4E…","text":"Buy milk","done":false, … ,"clearedToday":false}
 #pragma once
 
 #include <string>

@@ -16,8 +16,9 @@ bool sameNotes(const std::vector<std::string>& a, const std::vector<std::string>
 
 bool TodoItem::operator==(const TodoItem& other) const {
   return id == other.id && done == other.done && repeats == other.repeats && pinnedTop == other.pinnedTop &&
-         schedule == other.schedule && highlighted == other.highlighted && clearedToday == other.clearedToday &&
-         canonicallyEqual(text, other.text) && sameNotes(notes, other.notes);
+         schedule == other.schedule && highlighted == other.highlighted &&
+         clearedToday == other.clearedToday && canonicallyEqual(text, other.text) &&
+         sameNotes(notes, other.notes);
 }
 
 bool ArchivedItem::operator==(const ArchivedItem& other) const {

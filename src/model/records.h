@@ -1,7 +1,7 @@
 // The records every list is made of: plain values, found by identity, never by address or row.
 //
-// Equality is by value over all fields, texts by canonical equivalence; it tells whether something changed and
-// never finds a record.
+// Equality is by value over all fields, texts by canonical equivalence; it tells whether something changed
+// and never finds a record.
 #pragma once
 
 #include <string>

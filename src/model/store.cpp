@@ -44,12 +44,12 @@ void Store::loadStarterTasks() {
         "Right-click a task for everything else"}) {
     lists_.items.push_back(makeTask(std::string(I18n::t(key))));
   }
-  lists_.items.back().notes.emplace_back(
-      I18n::t("Notes sit underneath — try typing: milk // eggs // bread"));
+  lists_.items.back().notes.emplace_back(I18n::t("Notes sit underneath — try typing: milk // eggs // bread"));
 }
 
 const TodoItem* Store::find(const Uuid& id) const {
-  const auto found = std::find_if(items().begin(), items().end(), [&](const auto& task) { return task.id == id; });
+  const auto found =
+      std::find_if(items().begin(), items().end(), [&](const auto& task) { return task.id == id; });
   return found == items().end() ? nullptr : &*found;
 }
 
@@ -62,7 +62,9 @@ std::vector<const TodoItem*> Store::visibleItems() const {
   return visible;
 }
 
-EntryContext Store::entryContext() const { return {time_.today(), region_, std::string(I18n::locale())}; }
+EntryContext Store::entryContext() const {
+  return {time_.today(), region_, std::string(I18n::locale())};
+}
 
 Subscription Store::observe(std::function<void(const Changes&)> observer) {
   return observers_.subscribe(std::move(observer));
@@ -82,7 +84,9 @@ void Store::setItems(std::vector<TodoItem> items) {
   if (!suppressUndo_) sweepDue_ = true;
 }
 
-void Store::setArchive(Archive archive) { assign(&Lists::archive, std::move(archive), Field::archive); }
+void Store::setArchive(Archive archive) {
+  assign(&Lists::archive, std::move(archive), Field::archive);
+}
 
 void Store::setTomorrow(std::vector<TodoItem> tomorrow) {
   assign(&Lists::tomorrow, std::move(tomorrow), Field::tomorrow);

@@ -1,8 +1,8 @@
 // The single owner of all task data while the program runs, with every rule that moves tasks.
 //
-// An operation computes a new list and assigns it whole. Assigning runs the hooks, and no other path changes data:
-// an undo snapshot before; the day file saved, reminders and sweeps brought in line after. However many lists an
-// operation assigns, it is one undo step and one save, made before the outermost operation returns.
+// An operation computes a new list and assigns it whole. Assigning runs the hooks, and no other path changes
+// data: an undo snapshot before; the day file saved, reminders and sweeps brought in line after. However many
+// lists an operation assigns, it is one undo step and one save, made before the outermost operation returns.
 // No operation reports an error: where a file cannot be written the lists go on in memory and the next change
 // tries again. Main thread only. Each rule has a source file of its own, store_<rule>.cpp.
 #pragma once
@@ -46,7 +46,9 @@ class Store {
     void add(Field field) { bits_.set(static_cast<std::size_t>(field)); }
     bool any() const { return bits_.any(); }
     /// True where one of the four lists was assigned, which is what the day file holds.
-    bool hasList() const { return (bits_ & ~std::bitset<5>(1u << static_cast<unsigned>(Field::sweepingIDs))).any(); }
+    bool hasList() const {
+      return (bits_ & ~std::bitset<5>(1u << static_cast<unsigned>(Field::sweepingIDs))).any();
+    }
 
    private:
     std::bitset<5> bits_;
@@ -54,8 +56,9 @@ class Store {
 
   using Ids = std::vector<Uuid>;
 
-  /// Loads the day file of `dataFolder`, or starts with the starter tasks; takes the day's backup, rolls the day
-  /// over where it is a new one, and takes up the sweeps of tasks left ticked. The ports must outlive the store.
+  /// Loads the day file of `dataFolder`, or starts with the starter tasks; takes the day's backup, rolls the
+  /// day over where it is a new one, and takes up the sweeps of tasks left ticked. The ports must outlive the
+  /// store.
   Store(Ports ports, Region region, Path dataFolder);
   Store(const Store&) = delete;
   Store& operator=(const Store&) = delete;
@@ -89,8 +92,8 @@ class Store {
   static std::optional<Entry> parseEntry(std::string_view line, const EntryContext& context) {
     return brimle::parseEntry(line, context);
   }
-  /// Adds a block of typed, pasted or dropped text to today, or to tomorrow; dated lines to their day. Bytes that
-  /// are not UTF-8 come in as U+FFFD.
+  /// Adds a block of typed, pasted or dropped text to today, or to tomorrow; dated lines to their day. Bytes
+  /// that are not UTF-8 come in as U+FFFD.
   void addLines(std::string_view text, bool toTomorrow);
 
   // Today's list (store_list.cpp). Ids that match no task are ignored.
@@ -106,6 +109,32 @@ class Store {
   void moveBy(const Uuid& id, int offset);
   /// Puts `task` in the place of the one with this identity, which it keeps; dropped where there is none.
   void replace(const Uuid& id, TodoItem task);
+
+  // Tasks for future days (store_scheduled.cpp). Ids are the entries', not the tasks'.
+  /// Sends a task of today's list, as it is given, unticked, to a day; nothing where it is not on the list.
+  void sendToDay(TodoItem task, const std::string& day);
+  void removeScheduled(const Uuid& id);
+  /// Sets the text, which may end in a date token that moves the entry; a text of blanks deletes it.
+  void editScheduled(const Uuid& id, std::string_view text);
+  /// Adds an empty note and gives its index; nothing where the entry is gone or its notes are full.
+  std::optional<std::size_t> addScheduledNote(const Uuid& id);
+  /// Sets a note; blanks remove it.
+  void editScheduledNote(const Uuid& id, std::ptrdiff_t index, std::string_view text);
+  /// Moves an entry's task onto today's list: to the top where it is pinned, else to the bottom.
+  void bringForward(const Uuid& id);
+
+  // The archive (store_archive.cpp).
+  /// The entries whose text or notes contain the search text, regardless of case, in the archive's order; all
+  /// entries where it is blank.
+  Ids archivedIDsInOrder(std::string_view matching) const;
+  /// Prepares the search of the archive a little at a time, so that the first keystroke need not wait for it.
+  void prepareSearch();
+  void removeArchived(const std::unordered_set<Uuid>& ids);
+  /// Puts entries back on today's list as new tasks at its bottom.
+  void bringBackMany(const std::unordered_set<Uuid>& ids);
+
+  // The day as plain text (store_text.cpp).
+  std::string dayAsText() const;
 
   // The day (store_rollover.cpp).
   /// Closes the stored day and opens today's where they differ; nothing where they are the same.
@@ -178,14 +207,16 @@ class Store {
   Lists lists_;
   std::string storedDate_;
   bool loading_ = true;
-  bool unkept_ = false;  ///< what may lie in the day file's place was neither loaded nor copied to the backups
+  bool unkept_ =
+      false;  ///< what may lie in the day file's place was neither loaded nor copied to the backups
   std::unordered_set<Uuid> pendingArchive_;
   std::unordered_set<Uuid> sweepingIDs_;
   std::deque<Snapshot> undoStack_;
   std::vector<Snapshot> redoStack_;
   bool suppressUndo_ = false;
   std::optional<Instant> lastSnapshotAt_;
-  std::shared_ptr<int> resyncs_ = std::make_shared<int>(0);  ///< how many were asked for; shared with their callbacks
+  std::shared_ptr<int> resyncs_ =
+      std::make_shared<int>(0);  ///< how many were asked for; shared with their callbacks
 
   // The operation under way.
   int depth_ = 0;

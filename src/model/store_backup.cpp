@@ -1,5 +1,5 @@
-// Copies of the day file beside it, in the folder Backups: one a day key, the newest seven kept, never read back;
-// and day files that could not be read, kept for good.
+// Copies of the day file beside it, in the folder Backups: one a day key, the newest seven kept, never read
+// back; and day files that could not be read, kept for good.
 #include <algorithm>
 
 #include "model/store.h"
@@ -64,7 +64,9 @@ void Store::backupIfNeeded(const std::string& stamp) {
   prune(files_, folder);
 }
 
-Path Store::unreadablePath() const { return folder_ / "Backups" / ("unreadable-" + stampOf(time_.now()) + ".json"); }
+Path Store::unreadablePath() const {
+  return folder_ / "Backups" / ("unreadable-" + stampOf(time_.now()) + ".json");
+}
 
 /// Keeps the bytes of a day file that is no document, where today's backup does not hold them already. Tells
 /// whether a backup holds them now.
@@ -72,9 +74,9 @@ bool Store::keepUnreadable(const std::string& bytes) {
   return holdsCopyOf(files_, folder_ / "Backups", bytes) || writeWhole(files_, unreadablePath(), bytes);
 }
 
-/// Before a save over bytes that no backup holds (a day file that could not be read or copied, or that came back
-/// with its disk after the start): moves them to the backups. False where that fails, so that nothing is written
-/// over them.
+/// Before a save over bytes that no backup holds (a day file that could not be read or copied, or that came
+/// back with its disk after the start): moves them to the backups. False where that fails, so that nothing is
+/// written over them.
 bool Store::setAsideUnkept() {
   if (!unkept_ || !files_.exists(fileURL_)) return true;
   const Path kept = unreadablePath();

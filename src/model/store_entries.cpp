@@ -13,8 +13,8 @@ void Store::addLines(std::string_view text, bool toTomorrow) {
   commit(parseLines(toValidUtf8(text), entryContext()), toTomorrow);
 }
 
-/// Files entries in their order, each list assigned once. A pinned task goes above all others, so that the last
-/// of several stands first.
+/// Files entries in their order, each list assigned once. A pinned task goes above all others, so that the
+/// last of several stands first.
 void Store::commit(std::vector<Entry> entries, bool toTomorrow) {
   std::vector<TodoItem> top, bottom, deferred;
   std::vector<ScheduledItem> sent;

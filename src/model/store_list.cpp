@@ -59,7 +59,8 @@ void Store::setDone(const Ids& ids, bool done) {
 
 void Store::setHighlight(const Ids& ids, bool highlighted) {
   Tasks list = items();
-  if (changeEach(list, ids, [&](TodoItem& task) { task.highlighted = highlighted; })) setItems(std::move(list));
+  if (changeEach(list, ids, [&](TodoItem& task) { task.highlighted = highlighted; }))
+    setItems(std::move(list));
 }
 
 void Store::removeMany(const Ids& ids) {
@@ -88,10 +89,9 @@ void Store::togglePinTop(const Uuid& id) {
   TodoItem task = std::move(*found);
   list.erase(found);
   task.pinnedTop = !task.pinnedTop;
-  const auto place =
-      task.pinnedTop ? list.begin() : std::find_if(list.begin(), list.end(), [](const TodoItem& other) {
-        return !other.pinnedTop;
-      });
+  const auto place = task.pinnedTop ? list.begin()
+                                    : std::find_if(list.begin(), list.end(),
+                                                   [](const TodoItem& other) { return !other.pinnedTop; });
   list.insert(place, std::move(task));
   setItems(std::move(list));
 }
@@ -115,7 +115,8 @@ void Store::moveToEnd(const Uuid& id) {
 
 void Store::moveBy(const Uuid& id, int offset) {
   const auto visible = visibleItems();
-  const auto found = std::find_if(visible.begin(), visible.end(), [&](const auto* task) { return task->id == id; });
+  const auto found =
+      std::find_if(visible.begin(), visible.end(), [&](const auto* task) { return task->id == id; });
   if (found == visible.end()) return;
   const std::ptrdiff_t place = found - visible.begin() + offset;
   if (place < 0 || place >= std::ssize(visible)) return;

@@ -12,7 +12,8 @@ constexpr std::string_view kPrefix = "arrival-";
 constexpr int kHour = 8;
 
 bool isStale(const NotificationRequest& request, const std::string& today) {
-  return request.identifier.starts_with(kPrefix) && (!request.trigger || dayKey(request.trigger->day) > today);
+  return request.identifier.starts_with(kPrefix) &&
+         (!request.trigger || dayKey(request.trigger->day) > today);
 }
 
 void addReminders(NotificationCenter& center, const std::vector<ScheduledItem>& future) {
@@ -25,7 +26,8 @@ void addReminders(NotificationCenter& center, const std::vector<ScheduledItem>& 
   }
 }
 
-/// Replaces every future reminder. Works only on its copy of the entries, so that it may run at any later time.
+/// Replaces every future reminder. Works only on its copy of the entries, so that it may run at any later
+/// time.
 void pushArrivalRequests(NotificationCenter& center, Time& time, std::vector<ScheduledItem> future) {
   const std::string today = dayKey(time.today());
   center.getPendingRequests([&center, today, future = std::move(future)](auto pending) {
@@ -53,13 +55,18 @@ void Store::resyncArrivalNotifications() {
   };
   notifications_.getAuthorizationStatus([&center = notifications_, push, none = future.empty()](auto status) {
     switch (status) {
-      case AuthorizationStatus::denied: return;
+      case AuthorizationStatus::denied:
+        return;
       case AuthorizationStatus::notDetermined:
-        if (!none) center.requestAuthorization([push](bool granted) { if (granted) push(); });
+        if (!none)
+          center.requestAuthorization([push](bool granted) {
+            if (granted) push();
+          });
         return;
       case AuthorizationStatus::authorized:
       case AuthorizationStatus::provisional:
-      case AuthorizationStatus::ephemeral: push();
+      case AuthorizationStatus::ephemeral:
+        push();
     }
   });
 }

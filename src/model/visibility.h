@@ -1,5 +1,5 @@
-// Which tasks rest: repeating ones already swept today, and weekday ones on a weekend day. A resting task stays
-// in its list and is left out of everything that is shown, counted or walked.
+// Which tasks rest: repeating ones already swept today, and weekday ones on a weekend day. A resting task
+// stays in its list and is left out of everything that is shown, counted or walked.
 #pragma once
 
 #include "model/records.h"

@@ -12,7 +12,8 @@ std::tm localTime(std::time_t seconds) {
 }
 
 Day dayOf(const std::tm& local) {
-  return Day{std::chrono::year(local.tm_year + 1900), std::chrono::month(static_cast<unsigned>(local.tm_mon + 1)),
+  return Day{std::chrono::year(local.tm_year + 1900),
+             std::chrono::month(static_cast<unsigned>(local.tm_mon + 1)),
              std::chrono::day(static_cast<unsigned>(local.tm_mday))};
 }
 

@@ -1,7 +1,7 @@
 // The port to local notifications: requests that wait for a day and are then shown to the user.
 //
-// Requests are kept by identifier, so adding one under an identifier that is there replaces it. Callbacks arrive
-// on the main queue, in the order they were asked for, never before the asking call returns.
+// Requests are kept by identifier, so adding one under an identifier that is there replaces it. Callbacks
+// arrive on the main queue, in the order they were asked for, never before the asking call returns.
 #pragma once
 
 #include <functional>

@@ -13,7 +13,9 @@ struct Pair {
   const Color& in(Appearance appearance) const { return appearance == Appearance::dark ? dark : light; }
 };
 
-constexpr Color grey(double level, double alpha) { return {level, level, level, alpha}; }
+constexpr Color grey(double level, double alpha) {
+  return {level, level, level, alpha};
+}
 
 constexpr Pair kPlainPaper{grey(0.99, 1), grey(0.115, 1)};
 constexpr Pair kWarmPaper{{0.984, 0.973, 0.918, 1}, {0.125, 0.12, 0.11, 1}};
@@ -41,13 +43,25 @@ std::string& currentTone() {
 
 }  // namespace
 
-const std::string& tone() { return currentTone(); }
-void setTone(std::string tone) { currentTone() = std::move(tone); }
+const std::string& tone() {
+  return currentTone();
+}
+void setTone(std::string tone) {
+  currentTone() = std::move(tone);
+}
 
-Color paper(Appearance appearance) { return (tone() == "plain" ? kPlainPaper : kWarmPaper).in(appearance); }
-Color pencilRed(Appearance appearance) { return kPencilRed.in(appearance); }
-Color highlight(Appearance appearance) { return kHighlight.in(appearance); }
-Color selection(Appearance appearance) { return kSelection.in(appearance); }
+Color paper(Appearance appearance) {
+  return (tone() == "plain" ? kPlainPaper : kWarmPaper).in(appearance);
+}
+Color pencilRed(Appearance appearance) {
+  return kPencilRed.in(appearance);
+}
+Color highlight(Appearance appearance) {
+  return kHighlight.in(appearance);
+}
+Color selection(Appearance appearance) {
+  return kSelection.in(appearance);
+}
 
 Color label(Label rank, Appearance appearance, bool highContrast) {
   const LabelOpacity& opacity = kLabels[static_cast<std::size_t>(rank)];

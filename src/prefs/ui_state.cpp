@@ -79,14 +79,30 @@ void UIState::setMargin(std::string value) {
   changed_.notify();
 }
 
-void UIState::setCompact(bool value) { assign(compact_, value); }
-void UIState::setHoveringWindow(bool value) { assign(hoveringWindow_, value); }
-void UIState::setShowingArchive(bool value) { assign(showingArchive_, value); }
-void UIState::setArchiveViewingFuture(bool value) { assign(archiveViewingFuture_, value); }
-void UIState::setArchiveQuery(std::string value) { assign(archiveQuery_, std::move(value)); }
+void UIState::setCompact(bool value) {
+  assign(compact_, value);
+}
+void UIState::setHoveringWindow(bool value) {
+  assign(hoveringWindow_, value);
+}
+void UIState::setShowingArchive(bool value) {
+  assign(showingArchive_, value);
+}
+void UIState::setArchiveViewingFuture(bool value) {
+  assign(archiveViewingFuture_, value);
+}
+void UIState::setArchiveQuery(std::string value) {
+  assign(archiveQuery_, std::move(value));
+}
 
-double UIState::listInset() const { return meaningOf(margin_, kListInsets, 16.0); }
-double UIState::baseSize() const { return meaningOf(textSize_, kBaseSizes, 13.0); }
-FontDesign UIState::design() const { return meaningOf(fontDesign_, kDesigns, FontDesign::standard); }
+double UIState::listInset() const {
+  return meaningOf(margin_, kListInsets, 16.0);
+}
+double UIState::baseSize() const {
+  return meaningOf(textSize_, kBaseSizes, 13.0);
+}
+FontDesign UIState::design() const {
+  return meaningOf(fontDesign_, kDesigns, FontDesign::standard);
+}
 
 }  // namespace brimle

@@ -1,7 +1,7 @@
 // The display settings and the transient flags of the window, with the values the views derive from them.
 //
-// The five settings are strings read once from the preferences; each change is written back at once and told to
-// the observers. A string outside the known ones stays as it is and gives each derived value its default.
+// The five settings are strings read once from the preferences; each change is written back at once and told
+// to the observers. A string outside the known ones stays as it is and gives each derived value its default.
 #pragma once
 
 #include <functional>
@@ -53,7 +53,9 @@ class UIState {
   FontDesign design() const;
 
   /// Tells that a property was assigned.
-  [[nodiscard]] Subscription observe(std::function<void()> observer) { return changed_.subscribe(std::move(observer)); }
+  [[nodiscard]] Subscription observe(std::function<void()> observer) {
+    return changed_.subscribe(std::move(observer));
+  }
 
  private:
   std::string stored(std::string_view key, std::string_view fallback) const;

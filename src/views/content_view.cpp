@@ -8,7 +8,9 @@
 
 namespace brimle {
 
-std::string ContentView::dateLine() const { return brimle::dateLine(time_.today()); }
+std::string ContentView::dateLine() const {
+  return brimle::dateLine(time_.today());
+}
 
 std::size_t ContentView::remaining() const {
   const auto visible = store_.visibleItems();

@@ -18,17 +18,19 @@ void removeGone(Rows& rows, const Rows& after, std::vector<RowChange>& changes) 
     std::size_t begin = end - 1;
     while (begin > 0 && isGone(begin - 1)) --begin;
     changes.push_back({Kind::remove, begin, end - begin, 0});
-    rows.erase(rows.begin() + static_cast<std::ptrdiff_t>(begin), rows.begin() + static_cast<std::ptrdiff_t>(end));
+    rows.erase(rows.begin() + static_cast<std::ptrdiff_t>(begin),
+               rows.begin() + static_cast<std::ptrdiff_t>(end));
     end = begin + 1;
   }
 }
 
-/// Brings the rows that stay into the order they have in `after`. Of two ways to mend a place the one that moves
-/// a single row is taken: a row that went down is taken out, any other is fetched.
+/// Brings the rows that stay into the order they have in `after`. Of two ways to mend a place the one that
+/// moves a single row is taken: a row that went down is taken out, any other is fetched.
 void moveStaying(Rows& rows, const Rows& after, std::vector<RowChange>& changes) {
   const std::unordered_set<Uuid> known(rows.begin(), rows.end());
   Rows order;
-  std::copy_if(after.begin(), after.end(), std::back_inserter(order), [&](const Uuid& id) { return known.contains(id); });
+  std::copy_if(after.begin(), after.end(), std::back_inserter(order),
+               [&](const Uuid& id) { return known.contains(id); });
   const auto move = [&](std::size_t from, std::size_t to) {
     changes.push_back({Kind::move, from, 1, to});
     const auto begin = rows.begin();
@@ -64,11 +66,24 @@ void insertNew(const Rows& rows, const Rows& after, std::vector<RowChange>& chan
   }
 }
 
+bool hasTwice(const Rows& rows) {
+  return std::unordered_set<Uuid>(rows.begin(), rows.end()).size() < rows.size();
+}
+
+/// Takes all rows out and the others in.
+std::vector<RowChange> replaceAll(std::size_t before, std::size_t after) {
+  std::vector<RowChange> changes;
+  if (before > 0) changes.push_back({Kind::remove, 0, before, 0});
+  if (after > 0) changes.push_back({Kind::insert, 0, after, 0});
+  return changes;
+}
+
 }  // namespace
 
 std::vector<RowChange> rowChanges(const Rows& before, const Rows& after) {
+  if (before == after) return {};
+  if (hasTwice(before) || hasTwice(after)) return replaceAll(before.size(), after.size());
   std::vector<RowChange> changes;
-  if (before == after) return changes;
   Rows rows = before;
   removeGone(rows, after, changes);
   moveStaying(rows, after, changes);

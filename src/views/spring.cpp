@@ -7,9 +7,15 @@ namespace brimle {
 namespace {
 
 constexpr double kSettled = 0.001;
-/// Enough pieces that the cubics through position and speed at their ends lie on the curve to some thousandths.
+/// Enough pieces that the cubics through position and speed at their ends lie on the curve to a thousandth.
 /// Not more than ten: Qt 6.4 keeps the pieces of an easing curve in an array of ten and writes past its end.
 constexpr int kSegments = 10;
+
+/// Where a segment begins, as a share of the duration: they are shorter at the start, where the motion bends
+/// most.
+double startOf(int segment) {
+  return std::pow(static_cast<double>(segment) / kSegments, 1.5);
+}
 
 struct Rates {
   double decay;
@@ -45,16 +51,16 @@ double Spring::duration() const {
 
 std::vector<double> Spring::bezier() const {
   const double whole = duration();
-  const double step = 1.0 / kSegments;
   std::vector<double> points;
   points.reserve(kSegments * 6);
   for (int segment = 0; segment < kSegments; ++segment) {
-    const double from = segment * step;
-    const double to = segment + 1 == kSegments ? 1 : from + step;
+    const double from = startOf(segment);
+    const double to = startOf(segment + 1);
     const double third = (to - from) / 3;
     const double end = segment + 1 == kSegments ? 1 : position(to * whole);
-    points.insert(points.end(), {from + third, position(from * whole) + velocity(from * whole) * whole * third,
-                                 to - third, end - velocity(to * whole) * whole * third, to, end});
+    points.insert(points.end(),
+                  {from + third, position(from * whole) + velocity(from * whole) * whole * third, to - third,
+                   end - velocity(to * whole) * whole * third, to, end});
   }
   return points;
 }

@@ -148,13 +148,14 @@ const std::map<std::string_view, std::set<std::string_view>> kSameAsEnglish = {
     {"id", {"Font", "Margin", "Menu", "OK", "Serif"}},
     {"it", {"File", "Menu", "OK", "Standard"}},
     {"ja", {"OK"}},
-    {"nl", {"Compact", "Later", "Menu", "OK", "Warm"}},
+    {"nl", {"Compact", "Help", "Later", "Menu", "OK", "Warm"}},
     {"pt", {"Menu", "OK"}},
 };
 
 /// Titles that stand beside each other, in a menu where an item is found by its title or as opposites.
 const std::vector<Texts> kSiblings = {
     {"File", "Edit", "View", "Window", "Help"},
+    {"File", "Archive"},
     {"System", "Light", "Dark", "Paper", "Font", "Text Size", "Margin", "Language", "Reset to Defaults"},
     {"Warm", "White"},
     {"System", "Serif", "Rounded"},

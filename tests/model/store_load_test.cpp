@@ -64,9 +64,10 @@ TEST_F(StoreLoad, NeverWritesOverWhatNoBackupHolds) {
     run("add a; wait 1");
     files.*fault = false;
     EXPECT_EQ(files.read(kFile), bytes);
-    run("add b");
-    EXPECT_EQ(store->items().size(), 6u);
+    run("add b; wait 1; add c");
+    EXPECT_EQ(store->items().size(), 7u);
     EXPECT_TRUE(backedUp(bytes)) << "even where the file came back with its disk";
+    EXPECT_EQ(files.list(kBackups)->size(), 1u);
   }
   files = LoggedFiles();
   files.put(kFile / "in a folder of that name", "x");

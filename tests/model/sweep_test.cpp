@@ -14,6 +14,7 @@ TEST_F(Sweep, RestsThenFadesThenFilesTheTask) {
       {"A!^/n B", "tick A; wait 1.21", "A+!^/n B", fade.c_str()},
       {"A!^/n B", "tick A; wait 1.22", "B |  |  | 15:A+/n", file.c_str()},
   });
+  EXPECT_TRUE(store->sweepingIDs().empty());
 }
 
 TEST_F(Sweep, FollowsWhatTheUserDoesMeanwhile) {
@@ -33,7 +34,6 @@ TEST_F(Sweep, FollowsWhatTheUserDoesMeanwhile) {
       {"A+ B R*+#", "wait 1.22", "B R*+# |  |  | 15:A+"},
       {"R*!/n S*%", "tick R S; wait 2; end R; wait 5; reopen; wait 5", "S*+#% R*+!#/n |  |  | 15:R+/n,S+"},
   });
-  EXPECT_TRUE(store->sweepingIDs().empty());
 }
 
 TEST_F(Sweep, DoesNotFadeWhereMotionIsReduced) {

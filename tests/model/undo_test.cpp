@@ -22,8 +22,8 @@ TEST_F(Undo, GoesBackAndForthBetweenWholeStates) {
       {before, change.c_str(), "B*+# | T A!^/n | 20:S 21:n'! | 15:B+ 14:X+"},
       {before, (change + "; undo").c_str(), "B*+ | T A!^/n | 20:S 21:n'! | 14:X+"},
       {before, (change + "; undo; undo").c_str(), before},
-      {"A B", "end A; wait 1; mark B; wait 1; undo; delete A; undo", "B A"},  // a step of its own
-      {"A B", "end A; wait 1; mark B; wait 1; undo; delete A; redo", "B"},    // and nothing to redo
+      {"A B", "end A; wait 1; mark B; undo; delete A; undo", "B A"},  // a step of its own
+      {"A B", "end A; wait 1; mark B; undo; delete A; redo", "B"},    // and nothing to redo
       {"A/n B | | | 15:X", "tick A; wait 2; undo; wait 10", "A+/n B |  |  | 15:X"},
       {"A/n B | | | 15:X", "tick A; wait 2; undo; wait 10; end B; wait 2", "B |  |  | 15:X,A+/n"},
   });

@@ -1,5 +1,5 @@
 // German. The user is addressed as "du". "Redo" is "Wiederherstellen", since "Wiederholen" is what tasks do.
-// The Return key is "Eingabetaste", as on the keyboards it is printed for.
+// The Return key is "Eingabetaste", which is long: the line of help says it once and then "mit ⇧", "mit ⌥".
 #include "i18n/tables/tables.h"
 
 namespace brimle::I18n {
@@ -24,8 +24,8 @@ constinit const InterfaceTable kGerman = {
     {"Every day", "Jeden Tag"},
     {"Weekdays only", "Nur wochentags"},
     {"Delete", "Löschen"},
-    {"Bring back to today", "Auf heute zurückholen"},
-    {"Past days will collect here at midnight.", "Vergangene Tage sammeln sich hier um Mitternacht."},
+    {"Bring back to today", "Wieder auf heute setzen"},
+    {"Past days will collect here at midnight.", "Vergangene Tage werden hier um Mitternacht abgelegt."},
     {"Yesterday", "Gestern"},
     {"M–F", "Mo–Fr"},
     {"Repeats every day", "Wiederholt sich jeden Tag"},
@@ -37,7 +37,7 @@ constinit const InterfaceTable kGerman = {
     {"File", "Datei"},
     {"New Task", "Neue Aufgabe"},
     {"Copy Day as Text", "Tag als Text kopieren"},
-    {"Paste Clipboard as Tasks", "Zwischenablage als Aufgaben einfügen"},
+    {"Paste Clipboard as Tasks", "Als Aufgaben einfügen"},
     {"Edit", "Bearbeiten"},
     {"Undo", "Rückgängig"},
     {"Redo", "Wiederherstellen"},
@@ -71,15 +71,15 @@ constinit const InterfaceTable kGerman = {
     {"About Brimle", "Über Brimle"},
     {"Check for Updates…", "Nach Updates suchen…"},
     {"Send Feedback", "Feedback senden"},
-    {"Indent for a note", "Einrücken für eine Notiz"},
-    {"Send to a day", "An einen Tag senden"},
-    {"Arrive pinned", "Angeheftet ankommen"},
+    {"Indent for a note", "Als Notiz einrücken"},
+    {"Send to a day", "Für ein Datum planen"},
+    {"Arrive pinned", "Bei Ankunft anheften"},
     {"Pick a date", "Datum wählen"},
     {"Future days", "Kommende Tage"},
     {"On your list today.", "Heute auf deiner Liste."},
-    {"Send", "Senden"},
+    {"Send", "Planen"},
     {"Cancel", "Abbrechen"},
-    {"Notes & markers", "Notizen & Zeichen"},
+    {"Notes & markers", "Notizen und Zeichen"},
     {"Working the list", "Mit der Liste arbeiten"},
     {"Standard", "Standard"},
     {"Narrow", "Schmal"},
@@ -91,21 +91,22 @@ constinit const InterfaceTable kGerman = {
     {"Tick this task to see it filed away", "Hake diese Aufgabe ab und sieh, wie sie ins Archiv wandert"},
     {"Drag me to the top", "Zieh mich ganz nach oben"},
     {"Double-click a task to edit it", "Doppelklicke auf eine Aufgabe, um sie zu bearbeiten"},
-    {"Right-click a task for everything else", "Rechtsklicke auf eine Aufgabe für alles Weitere"},
+    {"Right-click a task for everything else",
+     "Klicke mit rechts auf eine Aufgabe, um alles Weitere zu sehen"},
     {"Notes sit underneath — try typing: milk // eggs // bread",
      "Notizen stehen darunter – tippe zum Beispiel: Milch // Eier // Brot"},
     {"Help", "Hilfe"},
     {"Shortcuts", "Tastenkürzel"},
     {"New line", "Neue Zeile"},
     {"Another note", "Weitere Notiz"},
-    {"Quick add from anywhere", "Von überall schnell hinzufügen"},
+    {"Quick add from anywhere", "Von überall hinzufügen"},
     {"Walk the notes", "Durch die Notizen gehen"},
     {"Move task", "Aufgabe verschieben"},
     {"Space", "Leertaste"},
     {"Return adds · ⇧Return for another line · ⌥Return for tomorrow · \"task // note\" attaches a note · "
      "trailing ! pins, * repeats, *w repeats Mon–Fri",
-     "Eingabetaste fügt hinzu · ⇧Eingabetaste für eine weitere Zeile · ⌥Eingabetaste für morgen · „Aufgabe "
-     "// Notiz“ fügt eine Notiz an · am Ende heftet ! an, * wiederholt, *w wiederholt Mo–Fr"},
+     "Eingabetaste fügt hinzu · mit ⇧ neue Zeile · mit ⌥ für morgen · „Aufgabe // Notiz“ fügt eine Notiz "
+     "hinzu · am Ende: ! heftet an, * wiederholt, *w wiederholt Mo–Fr"},
 };
 
 constinit const DesktopTable kGermanDesktop = {
@@ -126,8 +127,8 @@ constinit const DesktopTable kGermanDesktop = {
     {"A new version is available", "Eine neue Version ist verfügbar"},
     {"Version %1 is available. You have %2.", "Version %1 ist verfügbar. Du hast %2."},
     {"The update check failed", "Die Suche nach Updates ist fehlgeschlagen"},
-    {"Updates are not configured in this build.", "In diesem Build sind keine Updates eingerichtet."},
-    {"Updates come from your package manager.", "Updates kommen von deiner Paketverwaltung."},
+    {"Updates are not configured in this build.", "In dieser Version sind keine Updates eingerichtet."},
+    {"Updates come from your package manager.", "Updates kommen über deine Paketverwaltung."},
     {"Download", "Herunterladen"},
     {"Later", "Später"},
     {"OK", "OK"},

@@ -1,6 +1,5 @@
-// Spanish. The user is addressed as "tú"; commands are infinitives. "Archivo" is both the File menu and the
-// archive, as in the mail programs of the desktops. The Return key is "Intro", as on the keyboards it is
-// printed for.
+// Spanish. The user is addressed as "tú"; commands are infinitives. "Archivo" is the File menu, so the
+// archive is "Archivadas", the tasks in it. The Return key is "Intro", as on the keyboards it is printed for.
 #include "i18n/tables/tables.h"
 
 namespace brimle::I18n {
@@ -8,7 +7,7 @@ namespace brimle::I18n {
 constinit const InterfaceTable kSpanish = {
     {"Add a task", "Añadir una tarea"},
     {"all done", "todo hecho"},
-    {"Archive", "Archivo"},
+    {"Archive", "Archivadas"},
     {"tomorrow", "mañana"},
     {"Tick", "Marcar"},
     {"Untick", "Desmarcar"},
@@ -18,8 +17,8 @@ constinit const InterfaceTable kSpanish = {
     {"Remove highlight", "Quitar resaltado"},
     {"Pin to top", "Fijar arriba"},
     {"Unpin", "Desfijar"},
-    {"Move to tomorrow", "Mover a mañana"},
-    {"Move to today", "Mover a hoy"},
+    {"Move to tomorrow", "Pasar a mañana"},
+    {"Move to today", "Pasar a hoy"},
     {"Repeat", "Repetir"},
     {"No repeat", "No repetir"},
     {"Every day", "Todos los días"},
@@ -73,19 +72,19 @@ constinit const InterfaceTable kSpanish = {
     {"Check for Updates…", "Buscar actualizaciones…"},
     {"Send Feedback", "Enviar comentarios"},
     {"Indent for a note", "Sangría para una nota"},
-    {"Send to a day", "Enviar a otro día"},
+    {"Send to a day", "Programar para una fecha"},
     {"Arrive pinned", "Llega fijada"},
     {"Pick a date", "Elegir una fecha"},
     {"Future days", "Próximos días"},
     {"On your list today.", "Hoy en tu lista."},
-    {"Send", "Enviar"},
+    {"Send", "Programar"},
     {"Cancel", "Cancelar"},
     {"Notes & markers", "Notas y símbolos"},
     {"Working the list", "Usar la lista"},
     {"Standard", "Estándar"},
     {"Narrow", "Estrecho"},
-    {"Flush", "Al borde"},
-    {"Search archive", "Buscar en el archivo"},
+    {"Flush", "A ras del borde"},
+    {"Search archive", "Buscar en archivadas"},
     {"No matches", "Sin resultados"},
     {"Today", "Hoy"},
     {"Start at Login", "Abrir al iniciar sesión"},
@@ -99,13 +98,13 @@ constinit const InterfaceTable kSpanish = {
     {"Shortcuts", "Atajos de teclado"},
     {"New line", "Nueva línea"},
     {"Another note", "Otra nota"},
-    {"Quick add from anywhere", "Añadir desde cualquier sitio"},
+    {"Quick add from anywhere", "Añadir desde donde sea"},
     {"Walk the notes", "Recorrer las notas"},
     {"Move task", "Mover la tarea"},
     {"Space", "Espacio"},
     {"Return adds · ⇧Return for another line · ⌥Return for tomorrow · \"task // note\" attaches a note · "
      "trailing ! pins, * repeats, *w repeats Mon–Fri",
-     "Intro añade · ⇧Intro para otra línea · ⌥Intro para mañana · «tarea // nota» añade una nota · al final, "
+     "Intro añade · ⇧Intro para otra línea · ⌥Intro para mañana · «tarea // nota» añade una nota · al final: "
      "! fija, * repite, *w repite de lunes a viernes"},
 };
 
@@ -127,8 +126,7 @@ constinit const DesktopTable kSpanishDesktop = {
     {"A new version is available", "Hay una nueva versión disponible"},
     {"Version %1 is available. You have %2.", "La versión %1 está disponible. Tienes la %2."},
     {"The update check failed", "No se pudieron buscar actualizaciones"},
-    {"Updates are not configured in this build.",
-     "Esta compilación no tiene configuradas las actualizaciones."},
+    {"Updates are not configured in this build.", "Esta versión no tiene configuradas las actualizaciones."},
     {"Updates come from your package manager.",
      "Las actualizaciones llegan a través de tu gestor de paquetes."},
     {"Download", "Descargar"},

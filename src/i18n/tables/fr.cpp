@@ -18,8 +18,8 @@ constinit const InterfaceTable kFrench = {
     {"Remove highlight", "Retirer le surlignage"},
     {"Pin to top", "Épingler en haut"},
     {"Unpin", "Désépingler"},
-    {"Move to tomorrow", "Déplacer à demain"},
-    {"Move to today", "Déplacer à aujourd’hui"},
+    {"Move to tomorrow", "Reporter à demain"},
+    {"Move to today", "Avancer à aujourd’hui"},
     {"Repeat", "Répéter"},
     {"No repeat", "Ne pas répéter"},
     {"Every day", "Tous les jours"},
@@ -73,12 +73,12 @@ constinit const InterfaceTable kFrench = {
     {"Check for Updates…", "Rechercher des mises à jour…"},
     {"Send Feedback", "Envoyer des commentaires"},
     {"Indent for a note", "Retrait pour une note"},
-    {"Send to a day", "Envoyer à un autre jour"},
+    {"Send to a day", "Planifier à une date"},
     {"Arrive pinned", "Arrive épinglée"},
     {"Pick a date", "Choisir une date"},
     {"Future days", "Jours à venir"},
     {"On your list today.", "Sur votre liste aujourd’hui."},
-    {"Send", "Envoyer"},
+    {"Send", "Planifier"},
     {"Cancel", "Annuler"},
     {"Notes & markers", "Notes et symboles"},
     {"Working the list", "Utiliser la liste"},
@@ -99,14 +99,14 @@ constinit const InterfaceTable kFrench = {
     {"Shortcuts", "Raccourcis clavier"},
     {"New line", "Nouvelle ligne"},
     {"Another note", "Une autre note"},
-    {"Quick add from anywhere", "Ajout rapide de n’importe où"},
+    {"Quick add from anywhere", "Ajouter de n’importe où"},
     {"Walk the notes", "Parcourir les notes"},
     {"Move task", "Déplacer la tâche"},
     {"Space", "Espace"},
     {"Return adds · ⇧Return for another line · ⌥Return for tomorrow · \"task // note\" attaches a note · "
      "trailing ! pins, * repeats, *w repeats Mon–Fri",
      "Entrée ajoute · ⇧Entrée pour une autre ligne · ⌥Entrée pour demain · «\u00A0tâche // note\u00A0» "
-     "ajoute une note · à la fin, ! épingle, * répète, *w répète du lundi au vendredi"},
+     "ajoute une note · à la fin\u00A0: ! épingle, * répète, *w répète du lundi au vendredi"},
 };
 
 constinit const DesktopTable kFrenchDesktop = {

@@ -36,7 +36,7 @@ constinit const InterfaceTable kItalian = {
     {"Quit Brimle", "Esci da Brimle"},
     {"File", "File"},
     {"New Task", "Nuova attività"},
-    {"Copy Day as Text", "Copia il giorno come testo"},
+    {"Copy Day as Text", "Copia giorno come testo"},
     {"Paste Clipboard as Tasks", "Incolla come attività"},
     {"Edit", "Modifica"},
     {"Undo", "Annulla"},
@@ -72,12 +72,12 @@ constinit const InterfaceTable kItalian = {
     {"Check for Updates…", "Verifica aggiornamenti…"},
     {"Send Feedback", "Invia commenti"},
     {"Indent for a note", "Rientro per una nota"},
-    {"Send to a day", "Invia a un altro giorno"},
+    {"Send to a day", "Pianifica per una data"},
     {"Arrive pinned", "Arriva fissata"},
     {"Pick a date", "Scegli una data"},
     {"Future days", "Prossimi giorni"},
     {"On your list today.", "Oggi nella tua lista."},
-    {"Send", "Invia"},
+    {"Send", "Pianifica"},
     {"Cancel", "Annulla"},
     {"Notes & markers", "Note e simboli"},
     {"Working the list", "Usare la lista"},
@@ -98,14 +98,14 @@ constinit const InterfaceTable kItalian = {
     {"Shortcuts", "Scorciatoie da tastiera"},
     {"New line", "Nuova riga"},
     {"Another note", "Un’altra nota"},
-    {"Quick add from anywhere", "Aggiunta rapida da ovunque"},
+    {"Quick add from anywhere", "Aggiungi da ovunque"},
     {"Walk the notes", "Scorri le note"},
     {"Move task", "Sposta attività"},
     {"Space", "Spazio"},
     {"Return adds · ⇧Return for another line · ⌥Return for tomorrow · \"task // note\" attaches a note · "
      "trailing ! pins, * repeats, *w repeats Mon–Fri",
      "Invio aggiunge · ⇧Invio per un’altra riga · ⌥Invio per domani · «attività // nota» aggiunge una nota · "
-     "alla fine, ! fissa, * ripete, *w ripete dal lunedì al venerdì"},
+     "alla fine: ! fissa, * ripete, *w ripete dal lunedì al venerdì"},
 };
 
 constinit const DesktopTable kItalianDesktop = {

@@ -1,6 +1,5 @@
-// Brazilian Portuguese. Commands are infinitives, sentences say "você". "Arquivo" is both the File menu and
-// the archive, as in the mail programs of the desktops. The Return key is "Enter", as on the keyboards sold
-// in Brazil.
+// Brazilian Portuguese. Commands are infinitives, sentences say "você". "Arquivo" is the File menu, so the
+// archive is "Arquivadas", the tasks in it. The Return key is "Enter", as on the keyboards sold in Brazil.
 #include "i18n/tables/tables.h"
 
 namespace brimle::I18n {
@@ -8,7 +7,7 @@ namespace brimle::I18n {
 constinit const InterfaceTable kPortuguese = {
     {"Add a task", "Adicionar uma tarefa"},
     {"all done", "tudo feito"},
-    {"Archive", "Arquivo"},
+    {"Archive", "Arquivadas"},
     {"tomorrow", "amanhã"},
     {"Tick", "Marcar"},
     {"Untick", "Desmarcar"},
@@ -73,22 +72,22 @@ constinit const InterfaceTable kPortuguese = {
     {"Check for Updates…", "Verificar atualizações…"},
     {"Send Feedback", "Enviar comentários"},
     {"Indent for a note", "Recuo para uma nota"},
-    {"Send to a day", "Enviar para outro dia"},
+    {"Send to a day", "Agendar para uma data"},
     {"Arrive pinned", "Chega fixada"},
     {"Pick a date", "Escolher uma data"},
     {"Future days", "Próximos dias"},
     {"On your list today.", "Hoje na sua lista."},
-    {"Send", "Enviar"},
+    {"Send", "Agendar"},
     {"Cancel", "Cancelar"},
     {"Notes & markers", "Notas e símbolos"},
     {"Working the list", "Usar a lista"},
     {"Standard", "Padrão"},
     {"Narrow", "Estreita"},
     {"Flush", "Rente à borda"},
-    {"Search archive", "Pesquisar no arquivo"},
+    {"Search archive", "Pesquisar em arquivadas"},
     {"No matches", "Nenhum resultado"},
     {"Today", "Hoje"},
-    {"Start at Login", "Abrir ao iniciar sessão"},
+    {"Start at Login", "Abrir ao iniciar a sessão"},
     {"Tick this task to see it filed away", "Marque esta tarefa e veja como ela é arquivada"},
     {"Drag me to the top", "Arraste-me para o topo"},
     {"Double-click a task to edit it", "Clique duas vezes em uma tarefa para editá-la"},
@@ -100,14 +99,14 @@ constinit const InterfaceTable kPortuguese = {
     {"Shortcuts", "Atalhos de teclado"},
     {"New line", "Nova linha"},
     {"Another note", "Outra nota"},
-    {"Quick add from anywhere", "Adicionar de qualquer lugar"},
+    {"Quick add from anywhere", "Adicionar de onde estiver"},
     {"Walk the notes", "Percorrer as notas"},
     {"Move task", "Mover a tarefa"},
     {"Space", "Espaço"},
     {"Return adds · ⇧Return for another line · ⌥Return for tomorrow · \"task // note\" attaches a note · "
      "trailing ! pins, * repeats, *w repeats Mon–Fri",
      "Enter adiciona · ⇧Enter para outra linha · ⌥Enter para amanhã · “tarefa // nota” adiciona uma nota · "
-     "no final, ! fixa, * repete, *w repete de segunda a sexta"},
+     "no final: ! fixa, * repete, *w repete de segunda a sexta"},
 };
 
 constinit const DesktopTable kPortugueseDesktop = {
@@ -128,7 +127,7 @@ constinit const DesktopTable kPortugueseDesktop = {
     {"A new version is available", "Há uma nova versão disponível"},
     {"Version %1 is available. You have %2.", "A versão %1 está disponível. Você tem a %2."},
     {"The update check failed", "Não foi possível verificar atualizações"},
-    {"Updates are not configured in this build.", "As atualizações não estão configuradas nesta compilação."},
+    {"Updates are not configured in this build.", "As atualizações não estão configuradas nesta versão."},
     {"Updates come from your package manager.", "As atualizações vêm do seu gerenciador de pacotes."},
     {"Download", "Baixar"},
     {"Later", "Mais tarde"},

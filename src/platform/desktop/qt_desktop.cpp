@@ -4,6 +4,8 @@
 
 namespace brimle {
 
-void QtDesktop::beep() { QApplication::beep(); }
+void QtDesktop::beep() {
+  QApplication::beep();
+}
 
 }  // namespace brimle

@@ -3,8 +3,8 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
-#include <QEventLoop>
 #include <QDBusServiceWatcher>
+#include <QEventLoop>
 #include <QTimer>
 
 namespace brimle {
@@ -53,19 +53,22 @@ bool QtInstance::announce() {
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return false;
   bus.registerObject(kPath, this, QDBusConnection::ExportAllSlots);
-  QDBusMessage request = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
-                                                        QStringLiteral("/org/freedesktop/DBus"),
-                                                        QStringLiteral("org.freedesktop.DBus"),
-                                                        QStringLiteral("RequestName"));
+  QDBusMessage request = QDBusMessage::createMethodCall(
+      QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+      QStringLiteral("org.freedesktop.DBus"), QStringLiteral("RequestName"));
   constexpr uint doNotQueue = 4;
   request << QString::fromLatin1(kService) << doNotQueue;
   bus.asyncCall(request);
   return true;
 }
 
-void QtInstance::Activate(const QVariantMap& platformData) { activate_(tokenOf(platformData)); }
+void QtInstance::Activate(const QVariantMap& platformData) {
+  activate_(tokenOf(platformData));
+}
 
-void QtInstance::Open(const QStringList&, const QVariantMap& platformData) { Activate(platformData); }
+void QtInstance::Open(const QStringList&, const QVariantMap& platformData) {
+  Activate(platformData);
+}
 
 void QtInstance::ActivateAction(const QString&, const QVariantList&, const QVariantMap& platformData) {
   Activate(platformData);
@@ -74,7 +77,8 @@ void QtInstance::ActivateAction(const QString&, const QVariantList&, const QVari
 bool activateRunningInstance() {
   const QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected() || !waitForService(bus)) return false;
-  QDBusMessage request = QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("Activate"));
+  QDBusMessage request =
+      QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("Activate"));
   request << ownPlatformData();
   return bus.call(request, QDBus::Block, kAnswerMilliseconds).type() == QDBusMessage::ReplyMessage;
 }

@@ -1,6 +1,6 @@
-// One instance of the program a session: the first owns the application's name on the session bus and is asked
-// there, by org.freedesktop.Application, to come forward. Which instance is the first is not decided here but by
-// the lock on the data folder.
+// One instance of the program a session: the first owns the application's name on the session bus and is
+// asked there, by org.freedesktop.Application, to come forward. Which instance is the first is not decided
+// here but by the lock on the data folder.
 #pragma once
 
 #include <QByteArray>
@@ -19,7 +19,8 @@ class QtInstance : public QObject {
   /// `activate` is called with the activation token of whoever asks, empty where there is none.
   explicit QtInstance(std::function<void(QByteArray)> activate);
 
-  /// Takes the application's name on the session bus, without waiting for the answer. False where there is no bus.
+  /// Takes the application's name on the session bus, without waiting for the answer. False where there is no
+  /// bus.
   bool announce();
 
  public slots:
@@ -31,8 +32,8 @@ class QtInstance : public QObject {
   std::function<void(QByteArray)> activate_;
 };
 
-/// Asks the instance that is running to come forward, waiting a moment for one that is only starting. False where
-/// it cannot be reached. For a process that is about to end: it blocks.
+/// Asks the instance that is running to come forward, waiting a moment for one that is only starting. False
+/// where it cannot be reached. For a process that is about to end: it blocks.
 bool activateRunningInstance();
 
 }  // namespace brimle

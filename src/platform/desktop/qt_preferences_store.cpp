@@ -14,7 +14,9 @@ QString toQt(std::string_view text) {
 QtPreferencesStore::QtPreferencesStore(const Path& file)
     : settings_(QString::fromStdString(file.string()), QSettings::IniFormat) {}
 
-bool QtPreferencesStore::isOpen() const { return settings_.status() == QSettings::NoError; }
+bool QtPreferencesStore::isOpen() const {
+  return settings_.status() == QSettings::NoError;
+}
 
 std::optional<std::string> QtPreferencesStore::string(std::string_view key) const {
   const QVariant value = settings_.value(toQt(key));

@@ -1,5 +1,5 @@
-// Settings in an INI file, one string a key, at the top of the file. A file edited by hand to hold other kinds of
-// value gives the text of them.
+// Settings in an INI file, one string a key, at the top of the file. A file edited by hand to hold other
+// kinds of value gives the text of them.
 #pragma once
 
 #include <QSettings>

@@ -11,30 +11,46 @@
 
 namespace brimle {
 
-QtTime::QtTime() : timer_(timerfd_create(CLOCK_REALTIME, TFD_NONBLOCK | TFD_CLOEXEC)) {
-  if (timer_ < 0) return;
-  notifier_ = std::make_unique<QSocketNotifier>(timer_, QSocketNotifier::Read);
-  connect(notifier_.get(), &QSocketNotifier::activated, this, [this] { timerFired(); });
+QtTime::QtTime()
+    : timer_(timerfd_create(CLOCK_REALTIME, TFD_NONBLOCK | TFD_CLOEXEC)),
+      timerNotifier_(whenReadable(timer_, &QtTime::timerFired)),
+      zoneNotifier_(whenReadable(zone_.descriptor(), &QtTime::zoneTouched)),
+      sleep_([this] { woke(); }) {
   armMidnight();
 }
 
 QtTime::~QtTime() {
-  notifier_.reset();
+  timerNotifier_.reset();
   if (timer_ >= 0) close(timer_);
+}
+
+std::unique_ptr<QSocketNotifier> QtTime::whenReadable(int descriptor, void (QtTime::*action)()) {
+  if (descriptor < 0) return nullptr;
+  auto notifier = std::make_unique<QSocketNotifier>(descriptor, QSocketNotifier::Read);
+  connect(notifier.get(), &QSocketNotifier::activated, this, action);
+  return notifier;
 }
 
 Instant QtTime::now() const {
   return std::chrono::time_point_cast<std::chrono::microseconds>(std::chrono::system_clock::now());
 }
 
-Day QtTime::localDay(Instant instant) const { return civilDay(instant); }
-
-void QtTime::after(Seconds delay, std::function<void()> action) {
-  QTimer::singleShot(std::chrono::ceil<std::chrono::milliseconds>(delay), Qt::PreciseTimer, this, std::move(action));
+Day QtTime::localDay(Instant instant) const {
+  return civilDay(instant);
 }
 
-Subscription QtTime::onDayChange(std::function<void()> observer) { return dayChange_.subscribe(std::move(observer)); }
-Subscription QtTime::onWake(std::function<void()> observer) { return wake_.subscribe(std::move(observer)); }
+void QtTime::after(Seconds delay, std::function<void()> action) {
+  QTimer::singleShot(std::chrono::ceil<std::chrono::milliseconds>(delay), Qt::PreciseTimer, this,
+                     std::move(action));
+}
+
+Subscription QtTime::onDayChange(std::function<void()> observer) {
+  return dayChange_.subscribe(std::move(observer));
+}
+
+Subscription QtTime::onWake(std::function<void()> observer) {
+  return wake_.subscribe(std::move(observer));
+}
 
 void QtTime::armMidnight() {
   const Day tomorrow{std::chrono::sys_days(today()) + std::chrono::days(1)};
@@ -48,7 +64,20 @@ void QtTime::armMidnight() {
 void QtTime::timerFired() {
   std::uint64_t expirations = 0;
   [[maybe_unused]] const auto length = ::read(timer_, &expirations, sizeof expirations);
-  tzset();
+  dayMayHaveChanged();
+}
+
+void QtTime::zoneTouched() {
+  if (zone_.takeChange()) dayMayHaveChanged();
+}
+
+void QtTime::woke() {
+  dayMayHaveChanged();
+  wake_.notify();
+}
+
+void QtTime::dayMayHaveChanged() {
+  reloadZone();
   armMidnight();
   dayChange_.notify();
 }

@@ -67,7 +67,7 @@ Rectangle {
         field: edit
         onCommit: (toTomorrow) => {
             const draft = edit.text
-            edit.clear()
+            edit.text = ""  // unlike clear(), which would leave the draft in the history of the field
             field.today.commit(draft, toTomorrow)
         }
     }

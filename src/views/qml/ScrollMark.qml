@@ -7,9 +7,8 @@ Rectangle {
 
     required property Flickable flickable
 
-    parent: flickable
-    anchors { right: parent.right; rightMargin: -8 }
-    y: flickable.visibleArea.yPosition * flickable.height
+    x: flickable.x + flickable.width + 8
+    y: flickable.y + flickable.visibleArea.yPosition * flickable.height
     width: 3
     height: Math.max(16, flickable.visibleArea.heightRatio * flickable.height)
     radius: 1.5

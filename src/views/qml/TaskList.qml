@@ -36,6 +36,4 @@ ListView {
         enabled: !Theme.reduceMotion
         SpringMove {}
     }
-
-    ScrollMark { flickable: list }
 }

@@ -21,12 +21,15 @@ Item {
     }
 
     TaskList {
+        id: tasks
         anchors {
             left: parent.left; right: parent.right; top: rule.bottom; bottom: entry.top
-            topMargin: 4; leftMargin: 16; rightMargin: 16
+            topMargin: 4; leftMargin: 16; rightMargin: 16; bottomMargin: 8
         }
         today: view.today
     }
+
+    ScrollMark { flickable: tasks }
 
     EntryField {
         id: entry

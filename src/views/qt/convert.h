@@ -14,8 +14,12 @@ namespace brimle {
 inline QString toQt(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
-inline std::string fromQt(const QString& text) { return text.toStdString(); }
-inline QString toQt(const Uuid& id) { return toQt(id.string()); }
+inline std::string fromQt(const QString& text) {
+  return text.toStdString();
+}
+inline QString toQt(const Uuid& id) {
+  return toQt(id.string());
+}
 inline QColor toQt(const Color& color) {
   return QColor::fromRgbF(static_cast<float>(color.red), static_cast<float>(color.green),
                           static_cast<float>(color.blue), static_cast<float>(color.alpha));

@@ -1,9 +1,9 @@
 #include "views/qt/main_window.h"
 
+#include <QtQml/qqmlextensionplugin.h>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QQuickItem>
-#include <QtQml/qqmlextensionplugin.h>
 
 #include "base/text.h"
 #include "views/row_text.h"
@@ -15,7 +15,9 @@ namespace {
 
 constexpr auto kShiftControl = Qt::ControlModifier | Qt::ShiftModifier;
 
-Qt::KeyboardModifiers chordOf(const QKeyEvent& event) { return event.modifiers() & ~Qt::KeypadModifier; }
+Qt::KeyboardModifiers chordOf(const QKeyEvent& event) {
+  return event.modifiers() & ~Qt::KeypadModifier;
+}
 
 }  // namespace
 
@@ -28,7 +30,9 @@ MainWindow::MainWindow(Store& store, ContentView& view, UIState& ui, Pasteboard&
   window_->installEventFilter(this);
 }
 
-MainWindow::~MainWindow() { window_->removeEventFilter(this); }
+MainWindow::~MainWindow() {
+  window_->removeEventFilter(this);
+}
 
 void MainWindow::bringForward(const QByteArray& activationToken) {
   if (!activationToken.isEmpty()) qputenv("XDG_ACTIVATION_TOKEN", activationToken);
@@ -40,11 +44,13 @@ void MainWindow::bringForward(const QByteArray& activationToken) {
 
 bool MainWindow::eventFilter(QObject*, QEvent* event) {
   switch (event->type()) {
-    case QEvent::KeyPress: return handleKey(*static_cast<QKeyEvent*>(event));
+    case QEvent::KeyPress:
+      return handleKey(*static_cast<QKeyEvent*>(event));
     case QEvent::Close:
       if (closed_) closed_();
       return false;
-    default: return false;
+    default:
+      return false;
   }
 }
 
@@ -52,7 +58,8 @@ bool MainWindow::eventFilter(QObject*, QEvent* event) {
 bool MainWindow::handleKey(const QKeyEvent& event) {
   const auto chord = chordOf(event);
   switch (event.key()) {
-    case Qt::Key_V: return chord == Qt::ControlModifier && pasteAsTasks();
+    case Qt::Key_V:
+      return chord == Qt::ControlModifier && pasteAsTasks();
     case Qt::Key_Z:
       if (chord == Qt::ControlModifier && !fieldTakes("canUndo")) return store_.undo(), true;
       if (chord == kShiftControl && !fieldTakes("canRedo")) return store_.redo(), true;
@@ -60,7 +67,8 @@ bool MainWindow::handleKey(const QKeyEvent& event) {
     case Qt::Key_Q:
       if (chord == Qt::ControlModifier) QCoreApplication::quit();
       return chord == Qt::ControlModifier;
-    default: return false;
+    default:
+      return false;
   }
 }
 

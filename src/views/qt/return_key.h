@@ -1,10 +1,11 @@
-// The Return key of the entry field: Return commits to today, Alt+Return to tomorrow, Shift+Return breaks the line.
-// While an input method composes, the key is its own. Watches the field it is given; never changes its text.
+// The Return key of the entry field: Return commits to today, Alt+Return to tomorrow, Shift+Return breaks the
+// line. While an input method composes, the key is its own. Watches the field it is given; never changes its
+// text.
 #pragma once
 
+#include <QtQml/qqmlregistration.h>
 #include <QObject>
 #include <QQuickItem>
-#include <QtQml/qqmlregistration.h>
 
 namespace brimle {
 

@@ -2,9 +2,9 @@
 // Example: Symbol { name: "plus"; size: 11; color: Theme.secondary }
 #pragma once
 
+#include <QtQml/qqmlregistration.h>
 #include <QColor>
 #include <QQuickPaintedItem>
-#include <QtQml/qqmlregistration.h>
 
 namespace brimle {
 

@@ -30,7 +30,9 @@ std::vector<Uuid> idsOf(const std::vector<Row>& rows) {
 
 }  // namespace
 
-TaskListModel::TaskListModel(const Store& store) : store_(store) { refresh(); }
+TaskListModel::TaskListModel(const Store& store) : store_(store) {
+  refresh();
+}
 
 int TaskListModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(rows_.size());
@@ -40,20 +42,27 @@ QVariant TaskListModel::data(const QModelIndex& index, int role) const {
   if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
   const Row& row = rows_[static_cast<std::size_t>(index.row())];
   switch (role) {
-    case idRole: return toQt(row.task.id);
+    case idRole:
+      return toQt(row.task.id);
     case Qt::DisplayRole:
-    case textRole: return toQt(shownText(row.task.text));
-    case notesRole: return shownNotes(row.task);
-    case doneRole: return row.task.done;
-    case highlightedRole: return row.task.highlighted;
-    case sweepingRole: return row.sweeping;
-    default: return {};
+    case textRole:
+      return toQt(shownText(row.task.text));
+    case notesRole:
+      return shownNotes(row.task);
+    case doneRole:
+      return row.task.done;
+    case highlightedRole:
+      return row.task.highlighted;
+    case sweepingRole:
+      return row.sweeping;
+    default:
+      return {};
   }
 }
 
 QHash<int, QByteArray> TaskListModel::roleNames() const {
-  return {{idRole, "taskId"},   {textRole, "taskText"},           {notesRole, "notes"},
-          {doneRole, "done"},   {highlightedRole, "highlighted"}, {sweepingRole, "sweeping"}};
+  return {{idRole, "taskId"}, {textRole, "taskText"},           {notesRole, "notes"},
+          {doneRole, "done"}, {highlightedRole, "highlighted"}, {sweepingRole, "sweeping"}};
 }
 
 void TaskListModel::refresh() {

@@ -1,5 +1,5 @@
-// The rows of today's list for QML: the visible tasks, kept in step with the store row by row, so that the view
-// can animate what changes. Reads the store only.
+// The rows of today's list for QML: the visible tasks, kept in step with the store row by row, so that the
+// view can animate what changes. Reads the store only.
 #pragma once
 
 #include <QAbstractListModel>

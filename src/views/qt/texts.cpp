@@ -15,7 +15,9 @@ Texts::Texts(UIState& ui) : settings_(ui.observe([this, &ui] { refresh(ui); })) 
   refresh(ui);
 }
 
-Texts::~Texts() { instance = nullptr; }
+Texts::~Texts() {
+  instance = nullptr;
+}
 
 Texts* Texts::create(QQmlEngine*, QJSEngine*) {
   QJSEngine::setObjectOwnership(instance, QJSEngine::CppOwnership);

@@ -2,11 +2,11 @@
 // Example: Texts.of["Add a task"]. The map is replaced when the language changes, so that bindings follow.
 #pragma once
 
+#include <QtQml/qqmlregistration.h>
 #include <QJSEngine>
 #include <QObject>
 #include <QQmlEngine>
 #include <QVariantMap>
-#include <QtQml/qqmlregistration.h>
 
 #include "base/signal.h"
 #include "prefs/ui_state.h"
@@ -17,7 +17,7 @@ class Texts : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_SINGLETON
-  Q_PROPERTY(QVariantMap of READ of NOTIFY changed)
+  Q_PROPERTY(QVariant of READ of NOTIFY changed)
 
  public:
   /// `ui` must outlive the texts.
@@ -27,7 +27,7 @@ class Texts : public QObject {
   /// The instance that QML gets; the program keeps it.
   static Texts* create(QQmlEngine*, QJSEngine*);
 
-  const QVariantMap& of() const { return texts_; }
+  QVariant of() const { return texts_; }
 
  signals:
   void changed();

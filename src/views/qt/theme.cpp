@@ -22,14 +22,17 @@ QVariantList curveOf(const Spring& spring) {
   return list;
 }
 
-int milliseconds(const Spring& spring) { return qRound(spring.duration() * 1000); }
+int milliseconds(const Spring& spring) {
+  return qRound(spring.duration() * 1000);
+}
 
 QColor labelColor(Palette::Label rank, Appearance appearance) {
   return toQt(Palette::label(rank, appearance, false));
 }
 
 /// Typefaces with round ends, the one to prefer first; the plain one where none is installed.
-constexpr const char* kRoundedFamilies[] = {"Nunito", "Quicksand", "Varela Round", "M PLUS Rounded 1c", "Comfortaa"};
+constexpr const char* kRoundedFamilies[] = {"Nunito", "Quicksand", "Varela Round", "M PLUS Rounded 1c",
+                                            "Comfortaa"};
 
 QString roundedFamily() {
   const QStringList installed = QFontDatabase::families();
@@ -41,9 +44,13 @@ QString roundedFamily() {
 
 }  // namespace
 
-Theme::Theme(UIState& ui) : ui_(ui), settings_(ui.observe([this] { emit changed(); })) { instance = this; }
+Theme::Theme(UIState& ui) : ui_(ui), settings_(ui.observe([this] { emit changed(); })) {
+  instance = this;
+}
 
-Theme::~Theme() { instance = nullptr; }
+Theme::~Theme() {
+  instance = nullptr;
+}
 
 Theme* Theme::create(QQmlEngine*, QJSEngine*) {
   QJSEngine::setObjectOwnership(instance, QJSEngine::CppOwnership);
@@ -62,28 +69,55 @@ void Theme::setReduceMotion(bool reduce) {
   emit changed();
 }
 
-QColor Theme::paper() const { return toQt(Palette::paper(appearance_)); }
-QColor Theme::pencilRed() const { return toQt(Palette::pencilRed(appearance_)); }
-QColor Theme::highlight() const { return toQt(Palette::highlight(appearance_)); }
-QColor Theme::selection() const { return toQt(Palette::selection(appearance_)); }
-QColor Theme::primary() const { return labelColor(Palette::Label::primary, appearance_); }
-QColor Theme::secondary() const { return labelColor(Palette::Label::secondary, appearance_); }
-QColor Theme::tertiary() const { return labelColor(Palette::Label::tertiary, appearance_); }
-QColor Theme::placeholder() const { return labelColor(Palette::Label::placeholder, appearance_); }
+QColor Theme::paper() const {
+  return toQt(Palette::paper(appearance_));
+}
+QColor Theme::pencilRed() const {
+  return toQt(Palette::pencilRed(appearance_));
+}
+QColor Theme::highlight() const {
+  return toQt(Palette::highlight(appearance_));
+}
+QColor Theme::selection() const {
+  return toQt(Palette::selection(appearance_));
+}
+QColor Theme::primary() const {
+  return labelColor(Palette::Label::primary, appearance_);
+}
+QColor Theme::secondary() const {
+  return labelColor(Palette::Label::secondary, appearance_);
+}
+QColor Theme::tertiary() const {
+  return labelColor(Palette::Label::tertiary, appearance_);
+}
+QColor Theme::placeholder() const {
+  return labelColor(Palette::Label::placeholder, appearance_);
+}
 
 QString Theme::fontFamily() const {
   switch (ui_.design()) {
-    case FontDesign::serif: return QStringLiteral("serif");
-    case FontDesign::rounded: return roundedFamily();
-    case FontDesign::standard: break;
+    case FontDesign::serif:
+      return QStringLiteral("serif");
+    case FontDesign::rounded:
+      return roundedFamily();
+    case FontDesign::standard:
+      break;
   }
   return QGuiApplication::font().family();
 }
 
-QVariantList Theme::listSpring() const { return curveOf(kListSpring); }
-int Theme::listSpringDuration() const { return milliseconds(kListSpring); }
-QVariantList Theme::tickSpring() const { return curveOf(kTickSpring); }
-int Theme::tickSpringDuration() const { return milliseconds(kTickSpring); }
+QVariantList Theme::listSpring() const {
+  return curveOf(kListSpring);
+}
+int Theme::listSpringDuration() const {
+  return milliseconds(kListSpring);
+}
+QVariantList Theme::tickSpring() const {
+  return curveOf(kTickSpring);
+}
+int Theme::tickSpringDuration() const {
+  return milliseconds(kTickSpring);
+}
 
 QColor Theme::faded(const QColor& color, double opacity) {
   QColor result = color;

@@ -2,13 +2,13 @@
 // A singleton made by the program before the window; QML reads it and never sets it.
 #pragma once
 
+#include <QtQml/qqmlregistration.h>
 #include <QColor>
 #include <QFont>
 #include <QJSEngine>
 #include <QObject>
 #include <QQmlEngine>
 #include <QVariantList>
-#include <QtQml/qqmlregistration.h>
 
 #include "base/signal.h"
 #include "prefs/palette.h"

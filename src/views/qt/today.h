@@ -1,8 +1,8 @@
 // Today's view for QML: properties of ContentView and its gestures. Decides nothing itself.
 #pragma once
 
-#include <QObject>
 #include <QtQml/qqmlregistration.h>
+#include <QObject>
 
 #include "base/signal.h"
 #include "prefs/ui_state.h"

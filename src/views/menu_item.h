@@ -1,0 +1,18 @@
+// An item of a context menu as data: what it says, how it stands, and what it does.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace brimle {
+
+struct MenuItem {
+  std::string title;  ///< in the interface language; empty for a separator
+  std::function<void()> action;
+  std::optional<bool> chosen;  ///< set for one of a choice: whether it is the one in force
+
+  bool isSeparator() const { return title.empty(); }
+};
+
+}  // namespace brimle

@@ -1,0 +1,74 @@
+#include "views/shortcuts_view.h"
+
+#include <span>
+
+#include "i18n/i18n.h"
+
+namespace brimle {
+namespace {
+
+struct RowText {
+  std::string_view keys;
+  std::string_view description;
+};
+
+/// Stands in the keys column for what is not the same everywhere.
+constexpr std::string_view kDateExample = "date example";
+constexpr std::string_view kSpace = "Space";
+
+constexpr RowText kAdding[] = {
+    {"⏎", "Add a task"},
+    {"⇧⏎", "New line"},
+    {"⌥⏎", "Move to tomorrow"},
+    {"⌥⌘T", "Quick add from anywhere"},
+};
+constexpr RowText kMarkers[] = {
+    {"// …", "Add note"},
+    {"// … // …", "Another note"},
+    {"⇥ …", "Indent for a note"},
+    {kDateExample, "Send to a day"},
+    {"!", "Pin to top"},
+    {"*", "Every day"},
+    {"*w", "Weekdays only"},
+};
+constexpr RowText kWorking[] = {
+    {kSpace, "Tick"},
+    {"⏎", "Edit"},
+    {"⇥ / ↓", "Walk the notes"},
+    {"⌘↑ ⌘↓", "Move task"},
+    {"⌫", "Delete"},
+    {"⌘Z", "Undo"},
+    {"⇧⌘C", "Copy Day as Text"},
+    {"⇧⌘V", "Paste Clipboard as Tasks"},
+};
+
+struct SectionText {
+  std::string_view title;
+  std::span<const RowText> rows;
+};
+constexpr SectionText kSections[] = {
+    {"Adding tasks", kAdding},
+    {"Notes & markers", kMarkers},
+    {"Working the list", kWorking},
+};
+
+std::string keysOf(const RowText& row, const Region& region) {
+  if (row.keys == kDateExample) return region.monthFirst ? "> 9/22" : "> 22/9";
+  return std::string(row.keys == kSpace ? I18n::t(kSpace) : row.keys);
+}
+
+}  // namespace
+
+std::vector<ShortcutsSection> shortcutsCard(const Region& region) {
+  std::vector<ShortcutsSection> card;
+  for (const SectionText& section : kSections) {
+    auto& shown = card.emplace_back();
+    shown.title = I18n::t(section.title);
+    for (const RowText& row : section.rows) {
+      shown.rows.push_back({keysOf(row, region), std::string(I18n::t(row.description))});
+    }
+  }
+  return card;
+}
+
+}  // namespace brimle

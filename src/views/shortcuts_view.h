@@ -1,0 +1,24 @@
+// The shortcuts card: three sections of keys and what they do, in the interface language. Shows only; does nothing.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "i18n/region.h"
+
+namespace brimle {
+
+struct ShortcutsSection {
+  struct Row {
+    std::string keys;
+    std::string description;
+  };
+
+  std::string title;
+  std::vector<Row> rows;
+};
+
+/// The card in the current language; the example of a date follows the region's order.
+std::vector<ShortcutsSection> shortcutsCard(const Region& region);
+
+}  // namespace brimle

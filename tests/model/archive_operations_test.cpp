@@ -1,0 +1,120 @@
+#include "model/store_fixture.h"
+
+namespace brimle {
+namespace {
+
+class ArchiveOperations : public StoreTest {
+ protected:
+  using Operation = void (Store::*)(const std::unordered_set<Uuid>&);
+  struct Case {
+    const char *before, *texts, *after;
+  };
+
+  /// Does the operation on the archived tasks of these texts, with one save and one undo step; or not at all.
+  void expect(Operation operation, const std::string& log, std::initializer_list<Case> cases) {
+    for (const auto& [before, texts, after] : cases) {
+      open(document(before));
+      storeLog.clear();
+      std::unordered_set<Uuid> ids{idOf("unknown"), idOf("A")};
+      for (const ArchiveDay& day : store->archive()) {
+        for (const ArchivedItem& entry : day.items) {
+          if (std::ranges::count(split(texts, ' '), entry.text) > 0) ids.insert(entry.id);
+        }
+      }
+      (*store.*operation)(ids);
+      EXPECT_EQ(state(), after) << before;
+      EXPECT_EQ(storeLog, ids.size() > 2 ? log : "") << before;
+      for (const TodoItem& task : store->items()) {
+        EXPECT_TRUE(task.id == idOf("A") || !ids.contains(task.id)) << "a new identity";
+      }
+      store->undo();
+      EXPECT_EQ(state(), shown(lists(before)));
+    }
+  }
+};
+
+TEST_F(ArchiveOperations, DeleteTasksAndTheDaysLeftEmpty) {
+  expect(&Store::removeArchived, "save told-archive ",
+         {
+             {"A | T | 20:S | 15:X+,Y/n,Z 14:V", "Y", "A | T | 20:S | 15:X+,Z 14:V"},
+             {"A+ | | | 15:X 14:V,W", "X", "A+ |  |  | 14:V,W"},
+             {"A | | | 15:X,Y 14:V 13:U", "V X", "A |  |  | 15:Y 13:U"},
+             {"A | | | 15:X,Y 14:V", "V Y X", "A"},
+             {"A | T | 20:S | 15:X 14:", "A T S", "A | T | 20:S | 15:X 14:"},
+             {"A | | | 15: 14:X,Y 13:", "Y", "A |  |  | 14:X"},
+         });
+}
+
+TEST_F(ArchiveOperations, BringTasksBackToTheBottomInTheArchivesOrder) {
+  expect(&Store::bringBackMany, "save told-items-archive ",
+         {
+             {"A! B+ | T | 20:S | 15:X+,Y/n/m 14:V 13:U", "U Y V", "A! B+ Y'/n/m V' U' | T | 20:S | 15:X+"},
+             {" | | | 15:X+/n", "X", "X'/n"},
+             {"A | | | 15:X 14:Y", "Z", "A |  |  | 15:X 14:Y"},
+         });
+}
+
+TEST_F(ArchiveOperations, SearchIgnoresCaseAndKeepsMarks) {
+  using Queries = std::vector<const char*>;
+  const std::tuple<const char*, Queries, Queries> table[] = {
+      {"Buy MILK",
+       {"milk", "MILK", "uy m", " \tbuy\u3000", "", " \t\u00A0"},
+       {"milks", "milk buy", "\u2028"}},
+      {"eggs/Milk/bread", {"milk", "BREAD", "eggs"}, {"eggsmilk", "milk bread", "eggs\xFFmilk", "milkbread"}},
+      {"Café", {"CAFÉ", "cafe\u0301", "CAFE\u0301", "caf"}, {"cafe", "cafe\u0300", "éé"}},
+      {"Cafe\u0301 au lait", {"café", "CAFÉ AU", "É A"}, {"cafe", "cafe au", "e"}},
+      {"cafe", {"CAFE"}, {"café", "cafe\u0301"}},
+      {"né, x\u0303x/XE", {"ne\u0301", "x", "xe"}, {"ne", "x,"}},
+      {"q\u0323\u0307", {"Q\u0307\u0323"}, {"q", "q\u0323", "q\u0307"}},
+      {"e\u0301\u0323", {"ẹ\u0301", "é\u0323"}, {"é", "ẹ", "e"}},
+      {"Straße", {"STRASSE", "strasse", "STRAẞE", "straß"}, {"strase"}},
+      {"FUSSBALL", {"fußball", "uß"}, {"fuß\u0301"}},
+      {"ISTANBUL", {"istanbul"}, {"İstanbul", "ıstanbul"}},
+      {"İlk", {"i\u0307LK", "lk"}, {"ilk", "ılk", "i"}},
+      {"ΟΔΟΣ", {"οδος", "οδοσ", "ς"}, {"ό"}},
+      {"ガ 각", {"カ\u3099", "\u1100\u1161\u11A8"}, {"カ", "가"}},
+      {"\xFF bad", {"\uFFFD BAD", "\x80 b"}, {"\xFF\xFF"}},
+  };
+  for (const auto& [text, matching, others] : table) {
+    const auto parts = split(text, '/');
+    const ArchivedItem entry{idOf("X"), parts[0], true, {parts.begin() + 1, parts.end()}};
+    open(document(Lists{{}, Archive({{"14", {entry, {idOf("Y"), "\u0301", true, {}}}}}), {}, {}}));
+    const auto finds = [this](const char* query) {
+      return std::ranges::count(store->archivedIDsInOrder(query), idOf("X")) > 0;
+    };
+    for (const char* query : matching) EXPECT_TRUE(finds(query)) << text << " by " << query;
+    for (const char* query : others) EXPECT_FALSE(finds(query)) << text << " by " << query;
+  }
+}
+
+TEST_F(ArchiveOperations, SearchIsPreparedInSlicesOrAtOnceAndStaysSo) {
+  std::vector<ArchiveDay> days;
+  for (int day = 0; day < 700; ++day) days.push_back(archiveDay(std::to_string(3000 - day) + ":a,É/n,b"));
+  const Lists years{{task("new+")}, Archive(days), {}, {}};
+  const auto isPrepared = [this] { return store->archive().prepareSearch(0); };
+  for (const bool inSlices : {true, false}) {
+    open(document(years));
+    const std::unordered_set<Uuid> some{days[1].items[1].id, days[300].items[0].id, days[699].items[2].id};
+    if (inSlices) store->prepareSearch();
+    EXPECT_FALSE(isPrepared()) << "a slice is not the whole";
+    if (inSlices) {
+      store->removeArchived(some);
+      time.runUntilIdle();
+    } else {
+      EXPECT_EQ(store->archivedIDsInOrder("E\u0301").size(), 700u);
+      store->removeArchived(some);
+    }
+    EXPECT_TRUE(isPrepared());
+    for (const auto& [query, found] : {std::pair{"e\u0301", 699u}, {"A", 699u}, {"b", 699u}, {"e", 0u}}) {
+      EXPECT_EQ(store->archivedIDsInOrder(query).size(), found) << query;
+    }
+    run("wait 2; add more; wait 2");
+    EXPECT_FALSE(isPrepared()) << "a new block";
+    run("wait 54000");
+    EXPECT_EQ(store->archivedIDsInOrder("E").size(), 2u) << "new and more";
+    EXPECT_TRUE(isPrepared());
+  }
+}
+
+}  // namespace
+}  // namespace brimle

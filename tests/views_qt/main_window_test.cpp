@@ -1,0 +1,174 @@
+#include "views/qt/main_window.h"
+
+#include <gmock/gmock.h>
+
+#include <QAccessible>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QQuickItem>
+#include <QTest>
+
+#include "i18n/dates.h"
+#include "i18n/i18n.h"
+#include "model/store_fixture.h"
+#include "platform/simulated/simulated_pasteboard.h"
+#include "platform/simulated/simulated_preferences_store.h"
+
+namespace brimle {
+namespace {
+
+/// The window over a store with the tasks "A B", the keyboard in the entry field. Nothing in it moves.
+class MainWindowTest : public StoreTest {
+ protected:
+  void SetUp() override {
+    open(document("A B"));
+    view.emplace(*store, time);
+    main.emplace(*store, *view, ui, pasteboard);
+    main->theme().setReduceMotion(true);
+    main->bringForward();
+    window = qobject_cast<QQuickWindow*>(QGuiApplication::topLevelWindows().constLast());
+    ASSERT_TRUE(window && QTest::qWaitForWindowActive(window));
+  }
+  void TearDown() override { I18n::setLang("en"); }
+
+  /// The items that a screen reader would find under a role, in order, once there are `count` of them.
+  std::vector<QQuickItem*> items(QAccessible::Role role, std::size_t count) {
+    std::vector<QQuickItem*> found;
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+      found.clear();
+      collect(window->contentItem(), role, found);
+      return found.size() == count;
+    })) << "found "
+        << found.size();
+    std::ranges::stable_sort(found, {}, [](const QQuickItem* item) { return item->mapToScene({}).y(); });
+    return found;
+  }
+
+  std::string names(QAccessible::Role role, std::size_t count) {
+    std::string text;
+    for (QQuickItem* item : items(role, count)) {
+      text += QAccessible::queryAccessibleInterface(item)->text(QAccessible::Name).toStdString() + " ";
+    }
+    return text;
+  }
+
+  /// Presses keys; then the lists, and in brackets what the entry field holds.
+  std::string after(std::string_view keys) {
+    for (const auto& key : split(keys, ' ')) {
+      const QKeyCombination one = QKeySequence::fromString(QString::fromStdString(key))[0];
+      QTest::keyClick(window, one.key(), one.keyboardModifiers());
+    }
+    return state() + " [" + field()->property("text").toString().toStdString() + "]";
+  }
+
+  QQuickItem* field() { return items(QAccessible::EditableText, 1).at(0); }
+
+  void click(QQuickItem* item) {
+    const QPointF centre = item->mapToScene({item->width() / 2, item->height() / 2});
+    QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
+  }
+
+  SimulatedPreferencesStore preferences;
+  SimulatedPasteboard pasteboard;
+  UIState ui{preferences, {}};
+  std::optional<ContentView> view;
+  std::optional<MainWindow> main;
+  QQuickWindow* window = nullptr;
+
+ private:
+  static void collect(QQuickItem* item, QAccessible::Role role, std::vector<QQuickItem*>& found) {
+    const auto* interface = QAccessible::queryAccessibleInterface(item);
+    if (interface && interface->role() == role) found.push_back(item);
+    for (QQuickItem* child : item->childItems()) collect(child, role, found);
+  }
+};
+
+TEST_F(MainWindowTest, AddsWhatIsTypedByTheReturnKeyWithItsModifiers) {
+  EXPECT_EQ(names(QAccessible::ListItem, 2), "A B ");
+  EXPECT_EQ(after("C Return"), "A B c' []");
+  EXPECT_EQ(names(QAccessible::ListItem, 3), "A B c ");
+  EXPECT_EQ(after("D Alt+Return"), "A B c' | d' []");
+  EXPECT_EQ(after("E Shift+Return Space N"), "A B c' | d' [e\n n]");
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+  QCoreApplication::sendEvent(window, &held);
+  EXPECT_EQ(after("Enter"), "A B c' e'/n | d' []");
+  EXPECT_EQ(after("Space Return"), "A B c' e'/n | d' []");
+  expectSaved();
+}
+
+TEST_F(MainWindowTest, LeavesReturnToAnInputMethodThatComposes) {
+  const auto compose = [&](const QString& preedit, const QString& committed) {
+    QInputMethodEvent event(preedit, {});
+    event.setCommitString(committed);
+    QCoreApplication::sendEvent(field(), &event);
+  };
+  compose("にほ", "");
+  EXPECT_THAT(after("Return Alt+Return"), testing::StartsWith("A B ["));
+  compose("", "日本");
+  EXPECT_EQ(after("Return"), "A B 日本' []");
+}
+
+TEST_F(MainWindowTest, TicksATaskByItsDotAndSweepsItAfterAPause) {
+  const auto dot = [&](std::size_t row) { return items(QAccessible::CheckBox, 2).at(row); };
+  const auto sweeping = [&] { return items(QAccessible::ListItem, 2).at(1)->property("sweeping").toBool(); };
+  for (const std::size_t row : {0, 0, 1}) click(dot(row));
+  EXPECT_EQ(state(), "A B+");
+  expectSaved();
+  EXPECT_EQ(names(QAccessible::CheckBox, 2), "Tick Untick ");
+  time.advance(Seconds(0.89));
+  EXPECT_FALSE(sweeping());
+  time.advance(Seconds(0.01));
+  EXPECT_TRUE(sweeping());
+  time.advance(Seconds(0.32));
+  EXPECT_EQ(names(QAccessible::ListItem, 1), "A ");
+  EXPECT_EQ(state(), "A |  |  | 15:B+");
+}
+
+TEST_F(MainWindowTest, UndoesTypingFirstAndThenWhatWasDone) {
+  EXPECT_EQ(after("C Return D Ctrl+Z"), "A B c' []");
+  EXPECT_EQ(after("Ctrl+Shift+Z"), "A B c' [d]");
+  EXPECT_EQ(after("Ctrl+Z Ctrl+Z"), "A B []");
+  EXPECT_EQ(names(QAccessible::ListItem, 2), "A B ");
+}
+
+TEST_F(MainWindowTest, RedoesWhatWasUndoneAndSoundsTheAlertAtTheEnd) {
+  EXPECT_EQ(after("C Return Ctrl+Z"), "A B []");
+  EXPECT_EQ(after("Ctrl+Shift+Z"), "A B c' []");
+  EXPECT_EQ(names(QAccessible::ListItem, 3), "A B c ");
+  EXPECT_EQ(desktop.beeps, 0);
+  EXPECT_EQ(after("Ctrl+Shift+Z"), "A B c' []");
+  EXPECT_EQ(desktop.beeps, 1);
+}
+
+TEST_F(MainWindowTest, TurnsPastedLinesIntoTasks) {
+  pasteboard.text = "C\n\tn\nD\n";
+  EXPECT_EQ(after("Ctrl+V"), "A B C'/n D' []");
+  pasteboard.text = "one line";
+  QGuiApplication::clipboard()->setText("one line");
+  EXPECT_EQ(after("Ctrl+V"), "A B C'/n D' [one line]");
+  pasteboard.text = std::string(100'000, 'x');
+  after("Ctrl+V");
+  EXPECT_EQ(store->items().size(), 5u) << "too long for a field";
+}
+
+TEST_F(MainWindowTest, FollowsTheLanguageOfTheSettings) {
+  for (const char* language : {"ja", "de", "en"}) {
+    ui.setLanguage(language);
+    EXPECT_EQ(names(QAccessible::Heading, 1), dateLine(time.today()) + " ");
+    EXPECT_EQ(names(QAccessible::EditableText, 1), std::string(I18n::t("Add a task")) + " ");
+  }
+}
+
+TEST_F(MainWindowTest, HidesByItsCloseButtonAndComesForwardAgain) {
+  int closed = 0;
+  main->onClose([&] { ++closed; });
+  click(items(QAccessible::Button, 2).at(0));
+  EXPECT_FALSE(window->isVisible());
+  EXPECT_EQ(closed, 1);
+  main->bringForward();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+  EXPECT_EQ(after("C Return"), "A B c' []");
+}
+
+}  // namespace
+}  // namespace brimle
