@@ -43,9 +43,12 @@ TEST_F(UIStateTest, ReadsTheSettingsWithTheirDefaultsAndWritesNothing) {
             "mono  tlh=tlh White Flush", 16, 13, FontDesign::standard}}) {
     preferences.values = settings(stored);
     const UIState ui(preferences, {"de-AT"});
-    EXPECT_EQ(ui.fontDesign() + " " + ui.textSize() + " " + ui.language() + "=" + I18n::lang() + " " +
-                  Palette::tone() + " " + ui.margin(),
-              read);
+    std::string shown;
+    for (const auto& value : {ui.fontDesign(), ui.textSize(), ui.language() + "=" + I18n::lang(),
+                              Palette::tone(), ui.margin()}) {
+      shown += (shown.empty() ? "" : " ") + value;
+    }
+    EXPECT_EQ(shown, read);
     EXPECT_EQ(std::tuple(ui.listInset(), ui.baseSize(), ui.design()), std::tuple(inset, size, design));
     EXPECT_EQ(preferences.values, settings(stored));
   }
@@ -70,9 +73,11 @@ TEST_F(UIStateTest, WritesEachSettingAndPutsItInForceBeforeItTells) {
 
 TEST_F(MigrationTest, TakesOverOnceWhatIsNotSetYet) {
   const std::string frame = "language=tlh;paperTone=plain;NSWindow Frame TodayWindow=10 20 300 400;";
-  const std::pair<std::string, std::string> rows[] = {
-      {"", frame + "fontDesign=serif;textSize=small;migratedFromQuorel=true"},
-      {"textSize=large;fontDesign=", frame + "textSize=large;fontDesign=;migratedFromQuorel=true"},
+  const std::string afterNone = frame + "fontDesign=serif;textSize=small;migratedFromQuorel=true";
+  const std::string afterSome = frame + "textSize=large;fontDesign=;migratedFromQuorel=true";
+  const std::pair<std::string_view, std::string_view> rows[] = {
+      {"", afterNone},
+      {"textSize=large;fontDesign=", afterSome},
       {"migratedFromQuorel=true", "migratedFromQuorel=true"}};
   for (const auto& [before, after] : rows) {
     preferences.values = settings(before);

@@ -19,7 +19,7 @@ ListView {
 
     delegate: TaskRow {
         width: ListView.view.width
-        onToggled: list.today.toggle(taskId)
+        onToggled: list.today.toggle(taskId) // qmllint disable unqualified
     }
 
     add: Transition {

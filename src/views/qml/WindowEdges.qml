@@ -35,7 +35,7 @@ Item {
             width: modelData.h === 0 ? edges.width - 2 * edges.reach : edges.reach
             height: modelData.v === 0 ? edges.height - 2 * edges.reach : edges.reach
             cursorShape: modelData.shape
-            onPressed: edges.target.startSystemResize(modelData.edge)
+            onPressed: edges.target.startSystemResize(modelData.edge) // qmllint disable unqualified
         }
     }
 }
