@@ -28,7 +28,7 @@ qt_add_qml_module(brimle_views
   SOURCES ${view_sources}
   QML_FILES ${qml_files}
   RESOURCES ${symbols})
-target_link_libraries(brimle_views PUBLIC brimle_core Qt6::Quick Qt6::Svg)
+target_link_libraries(brimle_views PUBLIC brimle_core Qt6::Quick Qt6::Svg Qt6::Widgets)
 set_target_properties(brimle_views PROPERTIES BRIMLE_HAS_GENERATED_CODE ON)
 # The generated type registration includes headers by their bare names.
 target_include_directories(brimle_views PRIVATE views/qt)

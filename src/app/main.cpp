@@ -85,8 +85,10 @@ int run(int argc, char** argv) {
 
   Store store({time, files, desktop, notifications}, regionOf(locale.region), dataFolder);
   UIState ui(preferences, locale.preferredLanguages);
-  ContentView view(store, time);
-  MainWindow mainWindow(store, view, ui, pasteboard);
+  SelectionModel sel(time);
+  Signal<> todayFocusAdd;
+  ContentView content(store, time);
+  MainWindow mainWindow({store, content, ui, sel, time, todayFocusAdd}, pasteboard);
   window = &mainWindow;
 
   const auto appearance = preferences.string("appearance");

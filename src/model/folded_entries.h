@@ -19,8 +19,8 @@ class FoldedEntries {
 
   std::string_view bytes() const { return bytes_; }
 
-  /// Appends the ids of the entries of which the text or a note contains `query`, which is folded; of all where it
-  /// is empty. A match ends between characters: "e" is not found in an e that carries a mark.
+  /// Appends the ids of the entries of which the text or a note contains `query`, which is folded; of all
+  /// where it is empty. A match ends between characters: "e" is not found in an e that carries a mark.
   void find(std::string_view query, std::vector<Uuid>& matches) const;
 
  private:
@@ -28,7 +28,7 @@ class FoldedEntries {
 
   std::string bytes_;
   std::vector<std::uint32_t> ends_;  ///< where each entry ends in `bytes_`
-  std::vector<Uuid> ids_;            ///< here, and not only in the records, so that a search reads them in a row
+  std::vector<Uuid> ids_;  ///< here, and not only in the records, so that a search reads them in a row
 };
 
 }  // namespace brimle

@@ -36,21 +36,11 @@ std::size_t plainLength(std::string_view text) {
 void appendEscaped(std::string& out, char c) {
   constexpr char digits[] = "0123456789abcdef";
   switch (c) {
-    case '"':
-      out += "\\\"";
-      break;
-    case '\\':
-      out += "\\\\";
-      break;
-    case '\n':
-      out += "\\n";
-      break;
-    case '\t':
-      out += "\\t";
-      break;
-    case '\r':
-      out += "\\r";
-      break;
+    case '"': out += "\\\""; break;
+    case '\\': out += "\\\\"; break;
+    case '\n': out += "\\n"; break;
+    case '\t': out += "\\t"; break;
+    case '\r': out += "\\r"; break;
     default:
       out += "\\u00";
       out += digits[(c >> 4) & 0x0F];

@@ -55,8 +55,7 @@ void Store::resyncArrivalNotifications() {
   };
   notifications_.getAuthorizationStatus([&center = notifications_, push, none = future.empty()](auto status) {
     switch (status) {
-      case AuthorizationStatus::denied:
-        return;
+      case AuthorizationStatus::denied: return;
       case AuthorizationStatus::notDetermined:
         if (!none)
           center.requestAuthorization([push](bool granted) {
@@ -65,8 +64,7 @@ void Store::resyncArrivalNotifications() {
         return;
       case AuthorizationStatus::authorized:
       case AuthorizationStatus::provisional:
-      case AuthorizationStatus::ephemeral:
-        push();
+      case AuthorizationStatus::ephemeral: push();
     }
   });
 }

@@ -3,22 +3,22 @@
 #include <algorithm>
 #include <unordered_map>
 
-
 namespace brimle {
 namespace {
 
 using Kind = TimelineRow::Kind;
 using Rows = std::vector<TimelineRow>;
 
-/// A key for a row that is no entry: from its kind, its date and, for a date that comes again, its turn. Its version
-/// digit is zero, which keeps it apart from the random ids of entries.
+/// A key for a row that is no entry: from its kind, its date and, for a date that comes again, its turn. Its
+/// version digit is zero, which keeps it apart from the random ids of entries.
 Uuid keyOf(Kind kind, std::string_view date, std::size_t turn) {
   Uuid key;
   key.bytes[0] = static_cast<std::uint8_t>(kind);
   key.bytes[1] = static_cast<std::uint8_t>(turn);
   key.bytes[2] = static_cast<std::uint8_t>(turn >> 8);
   const std::size_t hash = std::hash<std::string_view>()(date);
-  for (std::size_t byte = 0; byte < 8; ++byte) key.bytes[8 + byte] = static_cast<std::uint8_t>(hash >> (8 * byte));
+  for (std::size_t byte = 0; byte < 8; ++byte)
+    key.bytes[8 + byte] = static_cast<std::uint8_t>(hash >> (8 * byte));
   return key;
 }
 
@@ -62,7 +62,8 @@ Rows archiveTimeline(const Store& store, std::string_view query) {
 }
 
 std::size_t boundaryRow(const Rows& rows) {
-  const auto found = std::find_if(rows.begin(), rows.end(), [](const auto& row) { return row.kind == Kind::boundary; });
+  const auto found =
+      std::find_if(rows.begin(), rows.end(), [](const auto& row) { return row.kind == Kind::boundary; });
   return static_cast<std::size_t>(found - rows.begin());
 }
 

@@ -1,7 +1,7 @@
 // The archive as one timeline of rows: the days still to come, the boundary of today, the past days.
 //
-// A flat list, made from the store's lists and a search text; each row has a key of its own, so that a view can keep
-// its place and animate what changes. Two archived days of one date are two days here.
+// A flat list, made from the store's lists and a search text; each row has a key of its own, so that a view
+// can keep its place and animate what changes. Two archived days of one date are two days here.
 #pragma once
 
 #include <cstddef>

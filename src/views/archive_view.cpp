@@ -12,7 +12,9 @@ namespace {
 
 using Kind = TimelineRow::Kind;
 
-std::string translated(std::string_view key) { return std::string(I18n::t(key)); }
+std::string translated(std::string_view key) {
+  return std::string(I18n::t(key));
+}
 
 }  // namespace
 
@@ -47,7 +49,8 @@ std::vector<MenuItem> ArchiveView::menu(const TimelineRow& row) {
 
 const ScheduledItem* ArchiveView::find(const Uuid& id) const {
   const auto& scheduled = store_.scheduled();
-  const auto found = std::find_if(scheduled.begin(), scheduled.end(), [&](const auto& entry) { return entry.id == id; });
+  const auto found =
+      std::find_if(scheduled.begin(), scheduled.end(), [&](const auto& entry) { return entry.id == id; });
   return found == scheduled.end() ? nullptr : &*found;
 }
 

@@ -1,7 +1,8 @@
-// The archive view: the timeline's texts, the commands of its rows, and the editors of scheduled tasks in place.
+// The archive view: the timeline's texts, the commands of its rows, and the editors of scheduled tasks in
+// place.
 //
-// A scheduled task is edited in a draft that reaches the store when the editor closes; Escape drops the draft. The
-// editor walks with the keyboard between the task's text and its notes.
+// A scheduled task is edited in a draft that reaches the store when the editor closes; Escape drops the
+// draft. The editor walks with the keyboard between the task's text and its notes.
 #pragma once
 
 #include <cstdint>
@@ -59,7 +60,9 @@ class ArchiveView {
   void walkUp();
 
   /// Tells that the editor opened, moved or closed.
-  [[nodiscard]] Subscription observe(std::function<void()> observer) { return changed_.subscribe(std::move(observer)); }
+  [[nodiscard]] Subscription observe(std::function<void()> observer) {
+    return changed_.subscribe(std::move(observer));
+  }
 
  private:
   const ScheduledItem* find(const Uuid& id) const;

@@ -1,5 +1,5 @@
-// How the entry field colours the entry language while it is typed: a pure function of the text, the day and the
-// region. Example: in "buy milk ! // oat" the "!" is red and " // oat" is faint and slanted.
+// How the entry field colours the entry language while it is typed: a pure function of the text, the day and
+// the region. Example: in "buy milk ! // oat" the "!" is red and " // oat" is faint and slanted.
 #pragma once
 
 #include <cstddef>

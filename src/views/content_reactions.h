@@ -1,5 +1,5 @@
-// What today's view does of itself when something else changes: which selections, queries and editors go when the
-// view leaves the archive, when the entry field takes the keyboard, when an edit ends.
+// What today's view does of itself when something else changes: which selections, queries and editors go when
+// the view leaves the archive, when the entry field takes the keyboard, when an edit ends.
 #pragma once
 
 #include <functional>
@@ -23,7 +23,9 @@ class ContentReactions {
   void addFocused();
 
   /// Tells that the entry field should take the keyboard; the window shows it by then.
-  [[nodiscard]] Subscription onFocusAdd(std::function<void()> observer) { return focusAdd_.subscribe(std::move(observer)); }
+  [[nodiscard]] Subscription onFocusAdd(std::function<void()> observer) {
+    return focusAdd_.subscribe(std::move(observer));
+  }
 
  private:
   void focusAdd();

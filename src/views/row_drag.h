@@ -1,5 +1,5 @@
-// Reordering by drag: the dragged task takes the place of each row that the pointer enters, so that it travels
-// through the list as the pointer does. A drag that ends anywhere, or is cancelled, is over.
+// Reordering by drag: the dragged task takes the place of each row that the pointer enters, so that it
+// travels through the list as the pointer does. A drag that ends anywhere, or is cancelled, is over.
 #pragma once
 
 #include <optional>

@@ -18,9 +18,13 @@ constexpr RepeatTitle kRepeatTitles[] = {
     {RepeatChoice::weekdays, "Weekdays only"},
 };
 
-std::string translated(std::string_view key) { return std::string(I18n::t(key)); }
+std::string translated(std::string_view key) {
+  return std::string(I18n::t(key));
+}
 
-bool hasNote(const TodoItem& task, std::int64_t index) { return index >= 0 && index < std::ssize(task.notes); }
+bool hasNote(const TodoItem& task, std::int64_t index) {
+  return index >= 0 && index < std::ssize(task.notes);
+}
 
 }  // namespace
 
@@ -87,7 +91,9 @@ void RowView::endNoteEdit(const Uuid& id, std::int64_t index) {
 }
 
 void RowView::noteFocusLost(const Uuid& id, std::int64_t index) {
-  const auto isOpen = [this, id, index] { return sel_.noteEditingID() == id && sel_.noteEditingIndex() == index; };
+  const auto isOpen = [this, id, index] {
+    return sel_.noteEditingID() == id && sel_.noteEditingIndex() == index;
+  };
   if (!isOpen() || sel_.hopping()) return;
   // On the next turn, since the keyboard may be on its way to another note of the same row.
   time_.after(Seconds(0), [this, alive = std::weak_ptr(alive_), isOpen, id, index] {

@@ -1,7 +1,8 @@
 // A row of today's list: what it derives from its task, its context menu, and its two editors in place.
 //
-// A row changes its task only by whole writes through the store, which drops them where the task is gone. The editor
-// that is open is kept in the selection model; this says what opening, typing, closing and losing the keyboard do.
+// A row changes its task only by whole writes through the store, which drops them where the task is gone. The
+// editor that is open is kept in the selection model; this says what opening, typing, closing and losing the
+// keyboard do.
 #pragma once
 
 #include <cstdint>
@@ -29,8 +30,8 @@ class RowView {
   /// A double click on the row: opens its text, unless one of its notes is open.
   void beginEdit(const Uuid& id);
   void setText(const Uuid& id, std::string_view text);
-  /// Closes the editor: the text is trimmed; one that ends in a date sends the task there, pinned; an empty one
-  /// deletes it.
+  /// Closes the editor: the text is trimmed; one that ends in a date sends the task there, pinned; an empty
+  /// one deletes it.
   void endEdit(const Uuid& id);
   /// The editor lost the keyboard.
   void textFocusLost(const Uuid& id);

@@ -23,23 +23,14 @@ constexpr RowText kAdding[] = {
     {"⌥⌘T", "Quick add from anywhere"},
 };
 constexpr RowText kMarkers[] = {
-    {"// …", "Add note"},
-    {"// … // …", "Another note"},
-    {"⇥ …", "Indent for a note"},
-    {kDateExample, "Send to a day"},
-    {"!", "Pin to top"},
-    {"*", "Every day"},
+    {"// …", "Add note"},         {"// … // …", "Another note"},
+    {"⇥ …", "Indent for a note"}, {kDateExample, "Send to a day"},
+    {"!", "Pin to top"},          {"*", "Every day"},
     {"*w", "Weekdays only"},
 };
 constexpr RowText kWorking[] = {
-    {kSpace, "Tick"},
-    {"⏎", "Edit"},
-    {"⇥ / ↓", "Walk the notes"},
-    {"⌘↑ ⌘↓", "Move task"},
-    {"⌫", "Delete"},
-    {"⌘Z", "Undo"},
-    {"⇧⌘C", "Copy Day as Text"},
-    {"⇧⌘V", "Paste Clipboard as Tasks"},
+    {kSpace, "Tick"}, {"⏎", "Edit"},  {"⇥ / ↓", "Walk the notes"}, {"⌘↑ ⌘↓", "Move task"},
+    {"⌫", "Delete"},  {"⌘Z", "Undo"}, {"⇧⌘C", "Copy Day as Text"}, {"⇧⌘V", "Paste Clipboard as Tasks"},
 };
 
 struct SectionText {

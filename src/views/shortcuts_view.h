@@ -1,4 +1,5 @@
-// The shortcuts card: three sections of keys and what they do, in the interface language. Shows only; does nothing.
+// The shortcuts card: three sections of keys and what they do, in the interface language. Shows only; does
+// nothing.
 #pragma once
 
 #include <string>

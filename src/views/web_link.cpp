@@ -16,7 +16,9 @@ constexpr std::array<Scheme, 3> kSchemes{{{"https://", ""}, {"http://", ""}, {"w
 constexpr std::string_view kSentenceEnds = ".,;:!?'\"";
 constexpr std::array<std::pair<char, char>, 3> kBrackets{{{'(', ')'}, {'[', ']'}, {'{', '}'}}};
 
-char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; }
+char lower(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c;
+}
 
 bool startsWith(std::string_view text, std::string_view start) {
   return text.size() >= start.size() &&
@@ -28,7 +30,9 @@ bool isWordCharacter(char c) {
 }
 
 /// Spaces, control characters, and what no address holds.
-bool endsAddress(char c) { return static_cast<unsigned char>(c) <= ' ' || c == '<' || c == '>' || c == '"' || c == 0x7F; }
+bool endsAddress(char c) {
+  return static_cast<unsigned char>(c) <= ' ' || c == '<' || c == '>' || c == '"' || c == 0x7F;
+}
 
 bool closesMoreThanOpens(std::string_view text) {
   return std::any_of(kBrackets.begin(), kBrackets.end(), [&](const auto& bracket) {

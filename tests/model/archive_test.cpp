@@ -74,6 +74,7 @@ TEST(Archive, SharesWhatDidNotChange) {
   for (const int size : {31, 32, 33, 100}) {
     const std::vector<ArchiveDay> plain = days(size);
     const Archive before(plain);
+    EXPECT_NE(Archive(std::vector(plain.begin(), plain.end() - 1)), before);
     std::vector<ArchivedItem> removed;
     for (const Archive& after : {before.withEntries("2000", archiveDay("14:x").items),
                                  before.withEntries(plain.front().date, archiveDay("14:x").items),

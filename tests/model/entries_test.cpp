@@ -16,6 +16,15 @@ TEST_F(AddLines, FilesEachTaskWhereItBelongs) {
   });
 }
 
+TEST_F(AddLines, KeepsTheOrderOfManyTasksForOneDay) {
+  std::string lines, expected = " |  |";
+  for (int line = 0; line < 50; ++line) lines += std::to_string(line) + (line % 2 ? " >21/6\n" : " >20/6\n");
+  for (int line = 0; line < 50; line += 2) expected += " 20:" + std::to_string(line) + "'!";
+  open(document(""));
+  store->addLines(lines, false);
+  EXPECT_TRUE(state().starts_with(expected)) << state();
+}
+
 TEST_F(AddLines, TakesAnyBytesAndSavesThemReadably) {
   std::string lines;
   for (int line = 0; line < 100'000; ++line) lines += "- task // note !\n";

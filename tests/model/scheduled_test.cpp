@@ -13,18 +13,19 @@ class Scheduled : public StoreTest {
   void act(const std::string& step) {
     const auto words = split(step, ' ');
     const Uuid id = idOf(words.at(1));
-    const auto textAfter = [&](std::size_t word) {
-      const auto at = step.find(' ', step.find(words.at(word)) + words[word].size());
-      return at == step.npos ? "" : step.substr(at + 1);
+    const auto textAfter = [&](int blanks) {
+      std::size_t at = 0;
+      while (blanks-- > 0 && at < step.size()) at = std::min(step.find(' ', at), step.size() - 1) + 1;
+      return step.substr(at);
     };
     const std::map<std::string, std::function<void()>> verbs = {
         {"send",
          [&] { store->sendToDay(store->find(id) ? *store->find(id) : task("Z"), dateOf(words.at(2))); }},
         {"drop", [&] { store->removeScheduled(id); }},
         {"bring", [&] { store->bringForward(id); }},
-        {"edit", [&] { store->editScheduled(id, textAfter(1)); }},
+        {"edit", [&] { store->editScheduled(id, textAfter(2)); }},
         {"note", [&] { noteAdded = store->addScheduledNote(id); }},
-        {"renote", [&] { store->editScheduledNote(id, std::stoi(words.at(2)), textAfter(2)); }}};
+        {"renote", [&] { store->editScheduledNote(id, std::stoi(words.at(2)), textAfter(3)); }}};
     verbs.at(words[0])();
   }
 

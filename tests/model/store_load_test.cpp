@@ -99,6 +99,11 @@ TEST(DataFolder, IsFoundOrMovedOrMade) {
     EXPECT_EQ(files.read(own / "today.json").value_or(""), present.substr(0, 6));
     EXPECT_EQ(files.exists(predecessors), present == "Brimle Quorel");
   }
+  MemoryFiles files;
+  files.put(predecessors / "today.json", "Quorel");
+  files.createFolders(own);
+  locateDataFolder(files, "/support");
+  EXPECT_TRUE(files.exists(predecessors)) << "an empty folder of its own is used as it is";
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cstdlib>
 #include <functional>
 #include <map>
 #include <random>
@@ -113,7 +114,7 @@ class Year : public StoreTest {
     store->editScheduled(entry.id, entry.item.text + " >" + someDay());
   }
 
-  static std::size_t numberOf(const std::string& text) { return std::stoul(text); }
+  static std::size_t numberOf(const std::string& text) { return std::strtoul(text.c_str(), nullptr, 10); }
 
   void look() {
     if (HasFailure()) return;  // what follows from a fault tells nothing more

@@ -44,8 +44,8 @@ TEST_F(UIStateTest, ReadsTheSettingsWithTheirDefaultsAndWritesNothing) {
     preferences.values = settings(stored);
     const UIState ui(preferences, {"de-AT"});
     std::string shown;
-    for (const auto& value : {ui.fontDesign(), ui.textSize(), ui.language() + "=" + I18n::lang(),
-                              Palette::tone(), ui.margin()}) {
+    for (const auto& value :
+         {ui.fontDesign(), ui.textSize(), ui.language() + "=" + I18n::lang(), Palette::tone(), ui.margin()}) {
       shown += (shown.empty() ? "" : " ") + value;
     }
     EXPECT_EQ(shown, read);

@@ -23,7 +23,7 @@ class MainWindowTest : public StoreTest {
   void SetUp() override {
     open(document("A B"));
     view.emplace(*store, time);
-    main.emplace(*store, *view, ui, pasteboard);
+    main.emplace(Today::Parts{*store, *view, ui, sel, time, todayFocusAdd}, pasteboard);
     main->theme().setReduceMotion(true);
     main->bringForward();
     window = qobject_cast<QQuickWindow*>(QGuiApplication::topLevelWindows().constLast());
@@ -61,6 +61,10 @@ class MainWindowTest : public StoreTest {
     return state() + " [" + field()->property("text").toString().toStdString() + "]";
   }
 
+  void type(std::string_view text) {
+    for (const char c : text) QTest::keyClick(window, c);
+  }
+
   QQuickItem* field() { return items(QAccessible::EditableText, 1).at(0); }
 
   void click(QQuickItem* item) {
@@ -71,6 +75,8 @@ class MainWindowTest : public StoreTest {
   SimulatedPreferencesStore preferences;
   SimulatedPasteboard pasteboard;
   UIState ui{preferences, {}};
+  SelectionModel sel{time};
+  Signal<> todayFocusAdd;
   std::optional<ContentView> view;
   std::optional<MainWindow> main;
   QQuickWindow* window = nullptr;
@@ -78,7 +84,7 @@ class MainWindowTest : public StoreTest {
  private:
   static void collect(QQuickItem* item, QAccessible::Role role, std::vector<QQuickItem*>& found) {
     const auto* interface = QAccessible::queryAccessibleInterface(item);
-    if (interface && interface->role() == role) found.push_back(item);
+    if (item->isVisible() && interface && interface->role() == role) found.push_back(item);
     for (QQuickItem* child : item->childItems()) collect(child, role, found);
   }
 };
@@ -149,6 +155,45 @@ TEST_F(MainWindowTest, TurnsPastedLinesIntoTasks) {
   pasteboard.text = std::string(100'000, 'x');
   after("Ctrl+V");
   EXPECT_EQ(store->items().size(), 5u) << "too long for a field";
+}
+
+TEST_F(MainWindowTest, EditsATaskAndItsNotesInPlace) {
+  const auto doubleClick = [&](QQuickItem* row) {
+    const QPoint place = row->mapToScene({row->width() / 2, 12}).toPoint();
+    QTest::mouseDClick(window, Qt::LeftButton, {}, place);
+  };
+  const auto focused = [&](const char* text) {
+    return QTest::qWaitFor([&] {
+      const QQuickItem* item = window->activeFocusItem();
+      return item && item->inherits("QQuickTextInput") && item->property("text").toString() == text;
+    });
+  };
+  doubleClick(items(QAccessible::ListItem, 2).at(1));
+  ASSERT_TRUE(focused("B"));
+  type(" b");
+  EXPECT_EQ(state(), "A B b'");
+  QTest::keyClick(window, Qt::Key_Tab);
+  ASSERT_TRUE(focused(""));
+  type(" n");
+  QTest::keyClick(window, Qt::Key_Up);
+  ASSERT_TRUE(focused("B b"));
+  EXPECT_EQ(state(), "A B b'/n");
+  type(" >20/6");
+  QTest::keyClick(window, Qt::Key_Return);
+  EXPECT_EQ(state(), "A |  | 20:B b'!/n");
+  EXPECT_EQ(names(QAccessible::ListItem, 1), "A ");
+  expectSaved();
+}
+
+TEST_F(MainWindowTest, SelectsByClicksAndWalksByKeys) {
+  click(items(QAccessible::ListItem, 2).at(0));
+  EXPECT_EQ(names(QAccessible::ListItem, 2), "A, selected B ");
+  QTest::keyClick(window, Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_EQ(names(QAccessible::ListItem, 2), "A, selected B, selected ");
+  QTest::keyClick(window, Qt::Key_Space);
+  EXPECT_EQ(state(), "A+ B+");
+  QTest::keyClick(window, Qt::Key_Escape);
+  EXPECT_EQ(after("C Return"), "A+ B+ c' []") << "Escape gives the entry field the keyboard";
 }
 
 TEST_F(MainWindowTest, FollowsTheLanguageOfTheSettings) {

@@ -36,7 +36,8 @@ TEST_F(TaskListModelTest, StaysInStepWithTheStore) {
   const char* names[] = {"A", "B", "C", "D", "E", "R", "W", "X", "Y"};
   for (int round = 0; round < 30; ++round) {
     open(document(starts[round % 3]));
-    TaskListModel model(*store);
+    const SelectionModel sel(time);
+    TaskListModel model(*store, sel);
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
     for (int step = 0; step < 60; ++step) {
       run(any(verbs) + " " + any(names) + " " + any(names));
@@ -51,14 +52,20 @@ TEST_F(TaskListModelTest, StaysInStepWithTheStore) {
   }
 }
 
-TEST_F(TaskListModelTest, ShowsNotesThatAreNotEmptyAndLongTextsInPart) {
+TEST_F(TaskListModelTest, ShowsLongTextsInPartAndNeverEditsThose) {
   open(document("A"));
   TodoItem task = store->items()[0];
   task.text = std::string(2 * kLongestShown, 'x');
   task.notes = {"", "n", "m"};
   store->replace(task.id, task);
-  const TaskListModel model(*store);
-  EXPECT_EQ(shownRows(model), shownText(task.text) + "/n/m ");
+  SelectionModel sel(time);
+  sel.setEditingID(task.id);
+  sel.setNoteEditingID(task.id);
+  sel.setNoteEditingIndex(1);
+  const TaskListModel model(*store, sel);
+  EXPECT_EQ(shownRows(model), shownText(task.text) + "//n/m ");
+  EXPECT_FALSE(model.data(model.index(0), TaskListModel::editingRole).toBool());
+  EXPECT_EQ(model.data(model.index(0), TaskListModel::noteEditingRole).toInt(), 1);
   EXPECT_EQ(model.data(model.index(0), TaskListModel::idRole).toString().toStdString(), task.id.string());
 }
 

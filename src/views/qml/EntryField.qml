@@ -49,6 +49,7 @@ Rectangle {
             selectedTextColor: Theme.paper
             selectionColor: Theme.faded(Theme.primary, 0.7)
             font { family: Theme.fontFamily; pixelSize: Theme.baseSize }
+            onActiveFocusChanged: if (activeFocus) field.today.addFocused()
             onCursorRectangleChanged: scroller.showCaret()
             Accessible.role: Accessible.EditableText
             Accessible.name: Texts.of["Add a task"]
@@ -79,5 +80,6 @@ Rectangle {
     Connections {
         target: field.today
         function onFocusAdd() { edit.forceActiveFocus() }
+        function onReleaseKeyboard() { field.forceActiveFocus() }
     }
 }

@@ -42,5 +42,10 @@ Item {
         textFormat: Text.PlainText
         color: Theme.tertiary
         font { family: Theme.fontFamily; pixelSize: Theme.baseSize - 3 }
+
+        Hint {
+            target: tomorrow
+            text: header.today.tomorrowTooltip
+        }
     }
 }

@@ -19,7 +19,16 @@ ListView {
 
     delegate: TaskRow {
         width: ListView.view.width
-        onToggled: list.today.toggle(taskId) // qmllint disable unqualified
+        today: list.today // qmllint disable unqualified
+    }
+
+    DropArea {
+        anchors.fill: parent
+        z: -1
+        onDropped: (drop) => {
+            drop.accept()
+            list.today.dropText(drop.text)
+        }
     }
 
     add: Transition {

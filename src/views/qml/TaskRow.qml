@@ -1,31 +1,57 @@
-// One task: its check dot, its text, and its notes beneath.
+// One task: its check dot, its text or the editor of it, its badges, and its notes beneath.
 import QtQuick
 import Brimle
 
 Item {
     id: row
 
+    required property Today today
     required property string taskId
     required property string taskText
     required property var notes
     required property bool done
+    required property bool pinned
     required property bool highlighted
+    required property string repeats
+    required property string link
     required property bool sweeping
-    signal toggled
-
-    /// Where the first baseline of the text stands below the top of the dot.
-    readonly property real baselineInDot: 16.5
+    required property bool selected
+    required property bool editing
+    required property int noteEditing
 
     implicitHeight: content.height + 10
 
     Accessible.role: Accessible.ListItem
-    Accessible.name: taskText
+    Accessible.name: [taskText].concat(states()).join(", ")
+    Accessible.selected: selected
 
-    Rectangle {
-        anchors { fill: content; leftMargin: -6; rightMargin: -6; topMargin: -5; bottomMargin: -5 }
-        radius: 4
-        color: Theme.highlight
-        visible: row.highlighted && !row.done
+    function states(): list<string> {
+        return [done ? Texts.of["ticked"] : "", pinned ? Texts.of["pinned"] : "",
+                repeats !== "" ? Texts.of["repeats"] : "", highlighted ? Texts.of["highlighted"] : "",
+                selected ? Texts.of["selected"] : ""].filter(word => word !== "")
+    }
+
+    RowGestures {
+        anchors.fill: parent
+        today: row.today
+        taskId: row.taskId
+        text: row.taskText
+    }
+
+    Repeater {
+        model: [row.highlighted && !row.done ? Theme.highlight : "transparent",
+                row.selected && !row.editing ? Theme.selection : "transparent"]
+
+        Rectangle {
+            required property color modelData
+
+            x: content.x - 6 // qmllint disable unqualified
+            width: content.width + 12 // qmllint disable unqualified
+            height: row.height // qmllint disable unqualified
+            radius: 4
+            color: modelData
+            opacity: content.opacity // qmllint disable unqualified
+        }
     }
 
     Column {
@@ -45,43 +71,32 @@ Item {
         opacity: 1 - slide
         transform: Translate { x: 600 * content.slide }
 
-        Item {
+        TaskLine {
             width: parent.width
-            height: Math.max(dot.height, label.y + label.height)
-
-            CheckDot {
-                id: dot
-                done: row.done
-                onTriggered: row.toggled()
-            }
-
-            Text {
-                id: label
-                x: dot.width + 9
-                y: Math.max(0, row.baselineInDot - baselineOffset)
-                width: parent.width - x
-                text: row.taskText
-                textFormat: Text.PlainText
-                wrapMode: Text.Wrap
-                color: row.done ? Theme.secondary : Theme.primary
-                font { family: Theme.fontFamily; pixelSize: Theme.baseSize; strikeout: row.done }
-            }
+            today: row.today
+            taskId: row.taskId
+            taskText: row.taskText
+            done: row.done
+            pinned: row.pinned
+            repeats: row.repeats
+            link: row.link
+            editing: row.editing
+            hovered: hover.hovered
         }
 
         Repeater {
-            model: row.notes
+            // By their number, so that an editor stays while its note changes.
+            model: row.notes.length
 
-            Text {
-                required property string modelData
-
-                x: 25
-                width: parent.width - x
-                text: modelData
-                textFormat: Text.PlainText
-                wrapMode: Text.Wrap
-                color: Theme.faded(Theme.secondary, 0.55)
-                font { family: Theme.fontFamily; pixelSize: Theme.baseSize - 2 }
+            NoteLine {
+                width: parent.width
+                noteText: row.notes[index] ?? "" // qmllint disable unqualified
+                today: row.today // qmllint disable unqualified
+                taskId: row.taskId // qmllint disable unqualified
+                editing: row.noteEditing === index // qmllint disable unqualified
             }
         }
     }
+
+    HoverHandler { id: hover }
 }

@@ -5,8 +5,7 @@
 #include <QKeyEvent>
 #include <QQuickItem>
 
-#include "base/text.h"
-#include "views/row_text.h"
+#include "views/qt/key_events.h"
 
 Q_IMPORT_QML_PLUGIN(BrimlePlugin)
 
@@ -15,14 +14,16 @@ namespace {
 
 constexpr auto kShiftControl = Qt::ControlModifier | Qt::ShiftModifier;
 
-Qt::KeyboardModifiers chordOf(const QKeyEvent& event) {
-  return event.modifiers() & ~Qt::KeypadModifier;
-}
-
 }  // namespace
 
-MainWindow::MainWindow(Store& store, ContentView& view, UIState& ui, Pasteboard& pasteboard)
-    : store_(store), pasteboard_(pasteboard), theme_(ui), texts_(ui), today_(store, view, ui) {
+MainWindow::MainWindow(Today::Parts parts, Pasteboard& pasteboard)
+    : store_(parts.store),
+      keys_(parts.store, parts.sel, parts.ui, pasteboard, parts.todayFocusAdd),
+      clickAway_(parts.sel, parts.ui, parts.time),
+      todayFocusAdd_(parts.todayFocusAdd),
+      theme_(parts.ui),
+      texts_(parts.ui),
+      today_(parts) {
   engine_.setInitialProperties({{QStringLiteral("today"), QVariant::fromValue(&today_)}});
   engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Brimle/MainWindow.qml")));
   if (engine_.rootObjects().isEmpty()) qFatal("the window could not be made");
@@ -39,50 +40,53 @@ void MainWindow::bringForward(const QByteArray& activationToken) {
   window_->show();
   window_->raise();
   window_->requestActivate();
-  emit today_.focusAdd();
+  todayFocusAdd_.notify();
 }
 
 bool MainWindow::eventFilter(QObject*, QEvent* event) {
   switch (event->type()) {
-    case QEvent::KeyPress:
-      return handleKey(*static_cast<QKeyEvent*>(event));
+    case QEvent::KeyPress: return handleKey(*static_cast<QKeyEvent*>(event));
+    case QEvent::MouseButtonRelease: {
+      const auto& mouse = *static_cast<QMouseEvent*>(event);
+      if (mouse.button() == Qt::LeftButton) clickAway_.mouseUp(modifiersOf(mouse.modifiers()));
+      return false;
+    }
     case QEvent::Close:
       if (closed_) closed_();
       return false;
-    default:
-      return false;
+    default: return false;
   }
 }
 
-/// Keys of the whole window. A text field that can undo or redo its own typing comes first.
 bool MainWindow::handleKey(const QKeyEvent& event) {
-  const auto chord = chordOf(event);
-  switch (event.key()) {
-    case Qt::Key_V:
-      return chord == Qt::ControlModifier && pasteAsTasks();
-    case Qt::Key_Z:
-      if (chord == Qt::ControlModifier && !fieldTakes("canUndo")) return store_.undo(), true;
-      if (chord == kShiftControl && !fieldTakes("canRedo")) return store_.redo(), true;
-      return false;
-    case Qt::Key_Q:
-      if (chord == Qt::ControlModifier) QCoreApplication::quit();
-      return chord == Qt::ControlModifier;
-    default:
-      return false;
-  }
+  return handleShortcut(event) || keys_.filter(keyPressOf(event), keyboardPlace());
 }
 
-/// Several lines, or more than a field can show, become tasks at once; one line is an ordinary paste.
-bool MainWindow::pasteAsTasks() {
-  const auto text = pasteboard_.string();
-  if (!text || (!containsNewline(*text) && text->size() <= kLongestShown)) return false;
-  store_.addLines(*text, false);
+/// Commands of the whole program. A text field that can undo or redo its own typing comes first.
+bool MainWindow::handleShortcut(const QKeyEvent& event) {
+  const auto chord = event.modifiers() & ~Qt::KeypadModifier;
+  if (event.key() == Qt::Key_Z && chord == Qt::ControlModifier && !fieldTakes("canUndo")) {
+    store_.undo();
+  } else if (event.key() == Qt::Key_Z && chord == kShiftControl && !fieldTakes("canRedo")) {
+    store_.redo();
+  } else if (event.key() == Qt::Key_Q && chord == Qt::ControlModifier) {
+    QCoreApplication::quit();
+  } else {
+    return false;
+  }
   return true;
 }
 
 bool MainWindow::fieldTakes(const char* property) const {
   const QQuickItem* focused = window_->activeFocusItem();
   return focused && focused->property(property).toBool();
+}
+
+KeyboardPlace MainWindow::keyboardPlace() const {
+  const QQuickItem* focused = window_->activeFocusItem();
+  const bool inText =
+      focused && (focused->inherits("QQuickTextInput") || focused->inherits("QQuickTextEdit"));
+  return {window_->isActive(), inText};
 }
 
 }  // namespace brimle

@@ -7,6 +7,8 @@
 #include <functional>
 #include <memory>
 
+#include "control/click_away.h"
+#include "control/key_filter.h"
 #include "platform/pasteboard.h"
 #include "views/qt/texts.h"
 #include "views/qt/theme.h"
@@ -18,8 +20,8 @@ class MainWindow : public QObject {
   Q_OBJECT
 
  public:
-  /// All references must outlive the window.
-  MainWindow(Store& store, ContentView& view, UIState& ui, Pasteboard& pasteboard);
+  /// All that the parts refer to, and the clipboard, must outlive the window.
+  MainWindow(Today::Parts parts, Pasteboard& pasteboard);
   ~MainWindow() override;
 
   Theme& theme() { return theme_; }
@@ -35,11 +37,14 @@ class MainWindow : public QObject {
 
  private:
   bool handleKey(const QKeyEvent& event);
-  bool pasteAsTasks();
+  bool handleShortcut(const QKeyEvent& event);
   bool fieldTakes(const char* property) const;
+  KeyboardPlace keyboardPlace() const;
 
   Store& store_;
-  Pasteboard& pasteboard_;
+  KeyFilter keys_;
+  ClickAway clickAway_;
+  Signal<>& todayFocusAdd_;
   Theme theme_;
   Texts texts_;
   Today today_;

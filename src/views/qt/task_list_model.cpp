@@ -8,6 +8,8 @@
 #include "views/list_diff.h"
 #include "views/qt/convert.h"
 #include "views/row_text.h"
+#include "views/row_view.h"
+#include "views/web_link.h"
 
 namespace brimle {
 namespace {
@@ -15,9 +17,18 @@ namespace {
 QStringList shownNotes(const TodoItem& task) {
   QStringList notes;
   for (const std::string& note : task.notes) {
-    if (!note.empty()) notes.append(toQt(shownText(note)));
+    notes.append(toQt(shownText(note)));
   }
   return notes;
+}
+
+QString repeatsText(const TodoItem& task) {
+  switch (repeatChoiceOf(task)) {
+    case RepeatChoice::off: break;
+    case RepeatChoice::everyDay: return QStringLiteral("every day");
+    case RepeatChoice::weekdays: return QStringLiteral("weekdays");
+  }
+  return {};
 }
 
 template <class Row>
@@ -30,7 +41,7 @@ std::vector<Uuid> idsOf(const std::vector<Row>& rows) {
 
 }  // namespace
 
-TaskListModel::TaskListModel(const Store& store) : store_(store) {
+TaskListModel::TaskListModel(const Store& store, const SelectionModel& sel) : store_(store), sel_(sel) {
   refresh();
 }
 
@@ -42,33 +53,48 @@ QVariant TaskListModel::data(const QModelIndex& index, int role) const {
   if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
   const Row& row = rows_[static_cast<std::size_t>(index.row())];
   switch (role) {
-    case idRole:
-      return toQt(row.task.id);
+    case idRole: return toQt(row.task.id);
     case Qt::DisplayRole:
-    case textRole:
-      return toQt(shownText(row.task.text));
-    case notesRole:
-      return shownNotes(row.task);
-    case doneRole:
-      return row.task.done;
-    case highlightedRole:
-      return row.task.highlighted;
-    case sweepingRole:
-      return row.sweeping;
-    default:
-      return {};
+    case textRole: return toQt(shownText(row.task.text));
+    case notesRole: return shownNotes(row.task);
+    case doneRole: return row.task.done;
+    case pinnedRole: return row.task.pinnedTop;
+    case highlightedRole: return row.task.highlighted;
+    case repeatsRole: return repeatsText(row.task);
+    case linkRole: return toQt(firstWebLink(row.task.text).value_or(""));
+    case sweepingRole: return row.sweeping;
+    case selectedRole: return row.selected;
+    case editingRole: return row.editing;
+    case noteEditingRole: return row.noteEditing;
+    default: return {};
   }
 }
 
 QHash<int, QByteArray> TaskListModel::roleNames() const {
-  return {{idRole, "taskId"}, {textRole, "taskText"},           {notesRole, "notes"},
-          {doneRole, "done"}, {highlightedRole, "highlighted"}, {sweepingRole, "sweeping"}};
+  return {{idRole, "taskId"},         {textRole, "taskText"},   {notesRole, "notes"},
+          {doneRole, "done"},         {pinnedRole, "pinned"},   {highlightedRole, "highlighted"},
+          {repeatsRole, "repeats"},   {linkRole, "link"},       {sweepingRole, "sweeping"},
+          {selectedRole, "selected"}, {editingRole, "editing"}, {noteEditingRole, "noteEditing"}};
+}
+
+TaskListModel::Row TaskListModel::rowOf(const TodoItem& task) const {
+  Row row{task};
+  row.sweeping = store_.sweepingIDs().contains(task.id);
+  row.selected = sel_.selection().contains(task.id);
+  // A text that is not shown whole is not edited either: what the field lacks would be lost.
+  row.editing = sel_.editingID() == task.id && task.text.size() <= kLongestShown;
+  if (sel_.noteEditingID() == task.id) {
+    const auto index = static_cast<std::size_t>(sel_.noteEditingIndex());
+    if (index < task.notes.size() && task.notes[index].size() <= kLongestShown)
+      row.noteEditing = static_cast<int>(index);
+  }
+  return row;
 }
 
 void TaskListModel::refresh() {
   std::vector<Row> next;
   for (const TodoItem* task : store_.visibleItems()) {
-    next.push_back({*task, store_.sweepingIDs().contains(task->id)});
+    next.push_back(rowOf(*task));
   }
   reorder(next);
   updateValues(std::move(next));

@@ -6,7 +6,7 @@
 #include <unordered_set>
 #include <vector>
 
-#include "base/signal.h"
+#include "control/selection_model.h"
 #include "model/store.h"
 
 namespace brimle {
@@ -15,10 +15,23 @@ class TaskListModel : public QAbstractListModel {
   Q_OBJECT
 
  public:
-  enum Role { idRole = Qt::UserRole + 1, textRole, notesRole, doneRole, highlightedRole, sweepingRole };
+  enum Role {
+    idRole = Qt::UserRole + 1,
+    textRole,
+    notesRole,
+    doneRole,
+    pinnedRole,
+    highlightedRole,
+    repeatsRole,  ///< "", "every day" or "weekdays"
+    linkRole,     ///< the first web address of the text, ready to be opened; else empty
+    sweepingRole,
+    selectedRole,
+    editingRole,     ///< the text is open in its editor
+    noteEditingRole  ///< the index of the note that is open, or -1
+  };
 
-  /// `store` must outlive the model.
-  explicit TaskListModel(const Store& store);
+  /// Both references must outlive the model.
+  TaskListModel(const Store& store, const SelectionModel& sel);
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
@@ -32,14 +45,19 @@ class TaskListModel : public QAbstractListModel {
   struct Row {
     TodoItem task;
     bool sweeping = false;
+    bool selected = false;
+    bool editing = false;
+    int noteEditing = -1;
 
     bool operator==(const Row&) const = default;
   };
 
+  Row rowOf(const TodoItem& task) const;
   void reorder(const std::vector<Row>& next);
   void updateValues(std::vector<Row> next);
 
   const Store& store_;
+  const SelectionModel& sel_;
   std::vector<Row> rows_;
 };
 

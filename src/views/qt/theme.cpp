@@ -96,12 +96,9 @@ QColor Theme::placeholder() const {
 
 QString Theme::fontFamily() const {
   switch (ui_.design()) {
-    case FontDesign::serif:
-      return QStringLiteral("serif");
-    case FontDesign::rounded:
-      return roundedFamily();
-    case FontDesign::standard:
-      break;
+    case FontDesign::serif: return QStringLiteral("serif");
+    case FontDesign::rounded: return roundedFamily();
+    case FontDesign::standard: break;
   }
   return QGuiApplication::font().family();
 }

@@ -1,40 +1,138 @@
 #include "views/qt/today.h"
 
+#include <QDesktopServices>
+#include <QUrl>
+
+#include "views/qt/context_menu.h"
 #include "views/qt/convert.h"
+#include "views/qt/key_events.h"
 
 namespace brimle {
+namespace {
 
-Today::Today(Store& store, ContentView& view, UIState& ui)
-    : view_(view),
-      tasks_(store),
-      store_(store.observe([this](const Store::Changes&) {
-        tasks_.refresh();
-        emit changed();
-      })),
-      settings_(ui.observe([this] { emit changed(); })) {}
+/// Calls `action` with the id that the text is, if it is one.
+template <class Action>
+void withId(const QString& text, Action action) {
+  if (const auto id = Uuid::parse(fromQt(text))) action(*id);
+}
+
+}  // namespace
+
+Today::Today(Parts parts)
+    : content_(parts.content),
+      rows_(parts.store, parts.sel, parts.time),
+      commands_(parts.store, parts.sel),
+      drag_(parts.store),
+      reactions_(parts.ui, parts.sel, parts.todayFocusAdd),
+      tasks_(parts.store, parts.sel) {
+  subscriptions_.push_back(parts.store.observe([this](const Store::Changes&) {
+    tasks_.refresh();
+    emit changed();
+  }));
+  subscriptions_.push_back(parts.sel.observe([this] { tasks_.refresh(); }));
+  subscriptions_.push_back(parts.ui.observe([this] { emit changed(); }));
+  subscriptions_.push_back(reactions_.onFocusAdd([this] { emit focusAdd(); }));
+}
 
 QString Today::dateLine() const {
-  return toQt(view_.dateLine());
+  return toQt(content_.dateLine());
 }
 QString Today::count() const {
-  return toQt(view_.count().text);
+  return toQt(content_.count().text);
 }
 bool Today::allDone() const {
-  return view_.count().allDone;
+  return content_.count().allDone;
 }
 QString Today::tomorrowLabel() const {
-  return toQt(view_.tomorrowLabel());
+  return toQt(content_.tomorrowLabel());
 }
 QString Today::tomorrowTooltip() const {
-  return toQt(view_.tomorrowTooltip());
+  return toQt(content_.tomorrowTooltip());
+}
+QString Today::draggingId() const {
+  return drag_.draggingID() ? toQt(*drag_.draggingID()) : QString();
 }
 
 void Today::commit(const QString& draft, bool toTomorrow) {
-  view_.commitDraft(fromQt(draft), toTomorrow);
+  content_.commitDraft(fromQt(draft), toTomorrow);
 }
 
 void Today::toggle(const QString& taskId) {
-  if (const auto id = Uuid::parse(fromQt(taskId))) view_.toggle(*id);
+  withId(taskId, [&](const Uuid& id) { commands_.toggleTargets(id); });
+}
+
+void Today::select(const QString& taskId, int modifiers) {
+  withId(taskId, [&](const Uuid& id) {
+    commands_.select(id, modifiersOf(Qt::KeyboardModifiers::fromInt(modifiers)));
+    emit releaseKeyboard();
+  });
+}
+
+void Today::togglePin(const QString& taskId) {
+  withId(taskId, [&](const Uuid& id) { rows_.togglePin(id); });
+}
+
+void Today::openLink(const QString& address) {
+  QDesktopServices::openUrl(QUrl(address));
+}
+
+void Today::openMenu(const QString& taskId) {
+  withId(taskId, [&](const Uuid& id) { popUpMenu(rows_.menu(id)); });
+}
+
+void Today::beginEdit(const QString& taskId) {
+  withId(taskId, [&](const Uuid& id) { rows_.beginEdit(id); });
+}
+
+void Today::setText(const QString& taskId, const QString& text) {
+  withId(taskId, [&](const Uuid& id) { rows_.setText(id, fromQt(text)); });
+}
+
+void Today::endEdit(const QString& taskId) {
+  withId(taskId, [&](const Uuid& id) { rows_.endEdit(id); });
+}
+
+void Today::textFocusLost(const QString& taskId) {
+  withId(taskId, [&](const Uuid& id) { rows_.textFocusLost(id); });
+}
+
+void Today::beginNoteEdit(const QString& taskId, int index) {
+  withId(taskId, [&](const Uuid& id) { rows_.beginNoteEdit(id, index); });
+}
+
+void Today::setNote(const QString& taskId, int index, const QString& text) {
+  withId(taskId, [&](const Uuid& id) { rows_.setNote(id, index, fromQt(text)); });
+}
+
+void Today::endNoteEdit(const QString& taskId, int index) {
+  withId(taskId, [&](const Uuid& id) { rows_.endNoteEdit(id, index); });
+}
+
+void Today::noteFocusLost(const QString& taskId, int index) {
+  withId(taskId, [&](const Uuid& id) { rows_.noteFocusLost(id, index); });
+}
+
+QString Today::dateHint(const QString& text) const {
+  return toQt(rows_.dateHint(fromQt(text)));
+}
+
+void Today::beginDrag(const QString& taskId) {
+  withId(taskId, [&](const Uuid& id) { drag_.begin(id); });
+  emit dragChanged();
+}
+
+void Today::dragEntered(const QString& taskId) {
+  withId(taskId, [&](const Uuid& id) { drag_.enter(id); });
+}
+
+void Today::endDrag() {
+  drag_.end();
+  emit dragChanged();
+}
+
+void Today::dropText(const QString& text) {
+  drag_.drop(fromQt(text));
+  emit dragChanged();
 }
 
 }  // namespace brimle

@@ -1,13 +1,18 @@
-// Today's view for QML: properties of ContentView and its gestures. Decides nothing itself.
+// Today's view for QML: what ContentView and its rows show, and the gestures on them. Decides nothing itself.
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
+#include <QQuickWindow>
 
 #include "base/signal.h"
+#include "control/row_commands.h"
 #include "prefs/ui_state.h"
+#include "views/content_reactions.h"
 #include "views/content_view.h"
 #include "views/qt/task_list_model.h"
+#include "views/row_drag.h"
+#include "views/row_view.h"
 
 namespace brimle {
 
@@ -21,10 +26,19 @@ class Today : public QObject {
   Q_PROPERTY(bool allDone READ allDone NOTIFY changed)
   Q_PROPERTY(QString tomorrowLabel READ tomorrowLabel NOTIFY changed)
   Q_PROPERTY(QString tomorrowTooltip READ tomorrowTooltip NOTIFY changed)
+  Q_PROPERTY(QString draggingId READ draggingId NOTIFY dragChanged)
 
  public:
-  /// All references must outlive this object.
-  Today(Store& store, ContentView& view, UIState& ui);
+  /// What the view is made of; all must outlive it.
+  struct Parts {
+    Store& store;
+    ContentView& content;
+    UIState& ui;
+    SelectionModel& sel;
+    Time& time;
+    Signal<>& todayFocusAdd;
+  };
+  explicit Today(Parts parts);
 
   QAbstractItemModel* tasks() { return &tasks_; }
   QString dateLine() const;
@@ -32,20 +46,54 @@ class Today : public QObject {
   bool allDone() const;
   QString tomorrowLabel() const;
   QString tomorrowTooltip() const;
+  QString draggingId() const;
 
+  // The entry field.
   Q_INVOKABLE void commit(const QString& draft, bool toTomorrow);
+  Q_INVOKABLE void addFocused() { reactions_.addFocused(); }
+
+  // Rows, by the id of their task.
   Q_INVOKABLE void toggle(const QString& taskId);
+  /// A click with the keyboard modifiers that were held (Qt::KeyboardModifiers).
+  Q_INVOKABLE void select(const QString& taskId, int modifiers);
+  Q_INVOKABLE void togglePin(const QString& taskId);
+  Q_INVOKABLE void openLink(const QString& address);
+  /// Opens the row's context menu at the pointer.
+  Q_INVOKABLE void openMenu(const QString& taskId);
+
+  // The editors in place.
+  Q_INVOKABLE void beginEdit(const QString& taskId);
+  Q_INVOKABLE void setText(const QString& taskId, const QString& text);
+  Q_INVOKABLE void endEdit(const QString& taskId);
+  Q_INVOKABLE void textFocusLost(const QString& taskId);
+  Q_INVOKABLE void beginNoteEdit(const QString& taskId, int index);
+  Q_INVOKABLE void setNote(const QString& taskId, int index, const QString& text);
+  Q_INVOKABLE void endNoteEdit(const QString& taskId, int index);
+  Q_INVOKABLE void noteFocusLost(const QString& taskId, int index);
+  Q_INVOKABLE QString dateHint(const QString& text) const;
+
+  // Dragging.
+  Q_INVOKABLE void beginDrag(const QString& taskId);
+  Q_INVOKABLE void dragEntered(const QString& taskId);
+  Q_INVOKABLE void endDrag();
+  Q_INVOKABLE void dropText(const QString& text);
 
  signals:
   void changed();
+  void dragChanged();
   /// The entry field is asked to take the keyboard.
   void focusAdd();
+  /// Text fields are asked to give the keyboard up, as after a click on a row.
+  void releaseKeyboard();
 
  private:
-  ContentView& view_;
+  ContentView& content_;
+  RowView rows_;
+  RowCommands commands_;
+  RowDrag drag_;
+  ContentReactions reactions_;
   TaskListModel tasks_;
-  Subscription store_;
-  Subscription settings_;
+  std::vector<Subscription> subscriptions_;
 };
 
 }  // namespace brimle

@@ -1,0 +1,31 @@
+// A symbol that can be clicked, with a tooltip that says what for.
+import QtQuick
+import Brimle
+
+Symbol {
+    id: button
+
+    required property string symbol
+    required property string label
+    signal triggered
+
+    name: symbol
+    width: size
+    height: size
+
+    Accessible.role: enabled ? Accessible.Button : Accessible.Graphic
+    Accessible.name: label
+    Accessible.onPressAction: triggered()
+
+    MouseArea {
+        anchors.fill: parent
+        anchors.margins: -4
+        onClicked: button.triggered()
+    }
+
+    Hint {
+        target: button
+        text: button.label
+        enabled: button.enabled
+    }
+}

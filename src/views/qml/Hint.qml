@@ -1,0 +1,61 @@
+// A tooltip in a window of its own, so that it is whole even where the window is small.
+import QtQuick
+import Brimle
+
+Item {
+    id: hint
+
+    required property Item target
+    required property string text
+
+    parent: target
+    anchors.fill: parent
+
+    HoverHandler {
+        id: hover
+        enabled: hint.enabled && hint.text !== ""
+    }
+
+    Timer {
+        interval: 700
+        running: hover.hovered
+        onTriggered: box.active = true
+    }
+    Connections {
+        target: hover
+        function onHoveredChanged() { if (!hover.hovered) box.active = false }
+    }
+
+    Loader {
+        id: box
+        active: false
+        sourceComponent: Window {
+            id: tip // qmllint disable
+            readonly property point place: hint.mapToGlobal(0, hint.height + 4) // qmllint disable unqualified
+            flags: Qt.ToolTip | Qt.FramelessWindowHint | Qt.WindowDoesNotAcceptFocus
+            x: place.x
+            y: place.y
+            width: words.implicitWidth + 16
+            height: words.implicitHeight + 10
+            visible: true
+            color: Theme.paper
+
+            Rectangle {
+                anchors.fill: parent
+                color: Theme.faded(Theme.primary, 0.04)
+                border { width: 1; color: Theme.faded(Theme.primary, 0.18) }
+            }
+            Text {
+                id: words
+                x: 8
+                y: 5
+                width: Math.min(implicitWidth, 320)
+                text: hint.text // qmllint disable unqualified
+                textFormat: Text.PlainText
+                wrapMode: Text.Wrap
+                color: Theme.primary
+                font { family: Theme.fontFamily; pixelSize: 11 }
+            }
+        }
+    }
+}

@@ -1,0 +1,52 @@
+// A one-line editor in the place of a text. It takes the keyboard when it opens, with the caret at the end; Return
+// and Escape close it. A hint may follow the text.
+import QtQuick
+import Brimle
+
+Item {
+    id: editor
+
+    required property string initialText
+    property string hint
+    property alias font: input.font
+    property alias color: input.color
+    readonly property alias text: input.text
+    signal edited(typed: string)
+    signal done
+    signal focusLost
+
+    implicitHeight: input.height
+    baselineOffset: input.baselineOffset
+
+    TextInput {
+        id: input
+        width: parent.width - (after.visible ? after.width + 6 : 0)
+        clip: true
+        selectByMouse: true
+        selectedTextColor: Theme.paper
+        selectionColor: Theme.faded(Theme.primary, 0.7)
+        onTextEdited: editor.edited(text)
+        onAccepted: editor.done()
+        Keys.onEscapePressed: editor.done()
+        onActiveFocusChanged: if (!activeFocus) editor.focusLost()
+        Accessible.role: Accessible.EditableText
+        Accessible.name: Texts.of["Edit"]
+    }
+
+    Text {
+        id: after
+        anchors { right: parent.right; baseline: input.baseline }
+        visible: editor.hint !== ""
+        text: editor.hint
+        textFormat: Text.PlainText
+        color: Theme.tertiary
+        font { family: input.font.family; pixelSize: Theme.baseSize - 2 }
+    }
+
+    // On the turn after it was made, when the row has its place; the caret after that.
+    Component.onCompleted: {
+        input.text = initialText
+        Qt.callLater(input.forceActiveFocus)
+        Qt.callLater(() => { input.cursorPosition = input.length })
+    }
+}

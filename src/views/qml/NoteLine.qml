@@ -1,0 +1,51 @@
+// One note of a row: its text, or the editor of it. An empty note is not drawn.
+import QtQuick
+import Brimle
+
+Item {
+    id: note
+
+    required property Today today
+    required property string taskId
+    required property int index
+    required property string noteText
+    required property bool editing
+
+    height: editing ? editor.height : label.height
+    visible: editing || noteText !== ""
+
+    Text {
+        id: label
+        x: 25
+        width: parent.width - x
+        visible: !note.editing
+        text: note.noteText
+        textFormat: Text.PlainText
+        wrapMode: Text.Wrap
+        horizontalAlignment: Text.AlignLeft
+        color: Theme.faded(Theme.secondary, 0.55)
+        font { family: Theme.fontFamily; pixelSize: Theme.baseSize - 2 }
+        Accessible.role: Accessible.StaticText
+        Accessible.name: Texts.of["Note"] + ": " + text
+
+        TapHandler {
+            gesturePolicy: TapHandler.ReleaseWithinBounds
+            onDoubleTapped: note.today.beginNoteEdit(note.taskId, note.index)
+        }
+    }
+
+    Loader {
+        id: editor
+        x: 25
+        width: parent.width - x
+        active: note.editing
+        sourceComponent: InlineEditor {
+            initialText: note.noteText // qmllint disable unqualified
+            font { family: Theme.fontFamily; pixelSize: Theme.baseSize - 2 }
+            color: Theme.secondary
+            onEdited: (typed) => note.today.setNote(note.taskId, note.index, typed) // qmllint disable unqualified
+            onDone: note.today.endNoteEdit(note.taskId, note.index) // qmllint disable unqualified
+            onFocusLost: note.today.noteFocusLost(note.taskId, note.index) // qmllint disable unqualified
+        }
+    }
+}

@@ -1,0 +1,50 @@
+// The gestures on a row: click selects, double click edits, right click opens the menu, a drag moves the row along
+// with the pointer and offers its text to other programs.
+import QtQuick
+import Brimle
+
+MouseArea {
+    id: gestures
+
+    required property Today today
+    required property string taskId
+    required property string text
+
+    acceptedButtons: Qt.LeftButton | Qt.RightButton
+    preventStealing: true
+    drag.target: ghost
+    drag.threshold: 8
+
+    // By assignment: the drag runs an event loop of its own, in which a binding would meet itself.
+    readonly property bool dragged: drag.active
+    onDraggedChanged: ghost.Drag.active = dragged
+
+    onClicked: (mouse) => {
+        if (mouse.button === Qt.RightButton) today.openMenu(taskId)
+        else today.select(taskId, mouse.modifiers)
+    }
+    onDoubleClicked: (mouse) => { if (mouse.button === Qt.LeftButton) today.beginEdit(taskId) }
+
+    Item {
+        id: ghost
+        Drag.dragType: Drag.Automatic
+        Drag.supportedActions: Qt.CopyAction | Qt.MoveAction
+        Drag.proposedAction: Qt.MoveAction
+        Drag.mimeData: { "text/plain": gestures.text }
+        Drag.imageSource: "qrc:/qt/qml/Brimle/symbols/nothing.svg"
+        Drag.onDragStarted: gestures.today.beginDrag(gestures.taskId)
+        Drag.onDragFinished: gestures.today.endDrag()
+    }
+
+    DropArea {
+        anchors.fill: parent
+        onEntered: (drag) => {
+            drag.accept(Qt.MoveAction)
+            gestures.today.dragEntered(gestures.taskId)
+        }
+        onDropped: (drop) => {
+            drop.accept()
+            gestures.today.dropText(drop.text)
+        }
+    }
+}

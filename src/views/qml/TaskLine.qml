@@ -1,0 +1,95 @@
+// The main line of a row: the check dot, the text or its editor, the web link, the pin and the repeat badge, on one
+// baseline.
+import QtQuick
+import Brimle
+
+Item {
+    id: line
+
+    required property Today today
+    required property string taskId
+    required property string taskText
+    required property bool done
+    required property bool pinned
+    required property string repeats
+    required property string link
+    required property bool editing
+    required property bool hovered
+
+    /// Where the first baseline of the text stands below the top of the dot.
+    readonly property real baselineInDot: 16.5
+
+    height: Math.max(dot.height, text.y + text.height)
+
+    CheckDot {
+        id: dot
+        done: line.done
+        onTriggered: line.today.toggle(line.taskId)
+    }
+
+    Item {
+        id: text
+        x: dot.width + 9
+        y: Math.max(0, line.baselineInDot - label.baselineOffset)
+        width: badges.x - x - (badges.width > 0 ? 9 : 0)
+        height: line.editing ? editor.height : label.height
+
+        Text {
+            id: label
+            width: parent.width
+            visible: !line.editing
+            text: line.taskText
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+            horizontalAlignment: Text.AlignLeft
+            color: line.done ? Theme.secondary : Theme.primary
+            font { family: Theme.fontFamily; pixelSize: Theme.baseSize; strikeout: line.done }
+            HoverHandler { cursorShape: Qt.IBeamCursor }
+        }
+
+        Loader {
+            id: editor
+            width: parent.width
+            active: line.editing
+            sourceComponent: InlineEditor {
+                initialText: line.taskText // qmllint disable unqualified
+                hint: line.today.dateHint(text) // qmllint disable unqualified
+                font { family: Theme.fontFamily; pixelSize: Theme.baseSize }
+                color: Theme.primary
+                onEdited: (typed) => line.today.setText(line.taskId, typed) // qmllint disable unqualified
+                onDone: line.today.endEdit(line.taskId) // qmllint disable unqualified
+                onFocusLost: line.today.textFocusLost(line.taskId) // qmllint disable unqualified
+            }
+        }
+    }
+
+    Row {
+        id: badges
+        anchors.right: parent.right
+        y: text.y + label.baselineOffset - Theme.baseSize * 0.36 - height / 2
+        spacing: 9
+
+        GlyphButton {
+            visible: line.link !== ""
+            symbol: "link"
+            size: 11
+            color: Theme.secondary
+            label: line.link
+            onTriggered: line.today.openLink(line.link)
+        }
+        GlyphButton {
+            readonly property bool live: line.hovered && !line.editing
+            visible: line.pinned || live
+            enabled: live
+            symbol: "pin"
+            size: 10
+            color: line.pinned ? Theme.pencilRed : Theme.secondary
+            label: line.pinned ? Texts.of["Unpin"] : Texts.of["Pin to top"]
+            onTriggered: line.today.togglePin(line.taskId)
+        }
+        RepeatBadge {
+            visible: line.repeats !== ""
+            weekdaysOnly: line.repeats === "weekdays"
+        }
+    }
+}

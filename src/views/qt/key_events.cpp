@@ -1,0 +1,80 @@
+#include "views/qt/key_events.h"
+
+#include "views/qt/convert.h"
+
+namespace brimle {
+namespace {
+
+struct KeyRow {
+  Qt::Key key;
+  KeyCode code;
+};
+constexpr KeyRow kKeys[] = {
+    {Qt::Key_A, KeyCode::a},
+    {Qt::Key_C, KeyCode::c},
+    {Qt::Key_Return, KeyCode::enter},
+    {Qt::Key_Tab, KeyCode::tab},
+    {Qt::Key_Space, KeyCode::space},
+    {Qt::Key_Backspace, KeyCode::backspace},
+    {Qt::Key_Escape, KeyCode::escape},
+    {Qt::Key_Down, KeyCode::down},
+    {Qt::Key_Delete, KeyCode::forwardDelete},
+    {Qt::Key_Up, KeyCode::up},
+};
+
+struct ModifierRow {
+  Qt::KeyboardModifier held;
+  Modifier modifier;
+};
+constexpr ModifierRow kModifiers[] = {
+    {Qt::ShiftModifier, Modifier::shift},
+    {Qt::ControlModifier, Modifier::command},
+    {Qt::AltModifier, Modifier::option},
+    {Qt::MetaModifier, Modifier::control},
+};
+
+/// Where the letters of the commands are on a Latin keyboard: evdev codes, 8 more as X11 and Wayland count
+/// them.
+struct PlaceRow {
+  quint32 scanCode;
+  Qt::Key key;
+};
+constexpr PlaceRow kPlaces[] = {
+    {38, Qt::Key_A}, {54, Qt::Key_C}, {55, Qt::Key_V}, {52, Qt::Key_Z}, {24, Qt::Key_Q}};
+
+/// X11's lock bit, which Qt hands through with the native modifiers.
+constexpr quint32 kCapsLock = 1u << 1;
+
+int keyOf(const QKeyEvent& event) {
+  const bool isLatin = event.key() < 0x80 || event.key() >= Qt::Key_Escape;
+  if (isLatin) return event.key();
+  for (const PlaceRow& row : kPlaces) {
+    if (row.scanCode == event.nativeScanCode()) return row.key;
+  }
+  return event.key();
+}
+
+}  // namespace
+
+Modifiers modifiersOf(Qt::KeyboardModifiers modifiers) {
+  Modifiers held;
+  for (const ModifierRow& row : kModifiers) {
+    if (modifiers.testFlag(row.held)) held = held | row.modifier;
+  }
+  return held;
+}
+
+KeyPress keyPressOf(const QKeyEvent& event) {
+  KeyPress press;
+  const int key = keyOf(event);
+  const bool onPad = event.modifiers().testFlag(Qt::KeypadModifier);
+  for (const KeyRow& row : kKeys) {
+    if (row.key == key && !(onPad && key == Qt::Key_Return)) press.code = row.code;
+  }
+  if (key >= Qt::Key_Space && key < 0x80) press.characters = fromQt(QString(QChar(key)).toLower());
+  press.modifiers = modifiersOf(event.modifiers());
+  if (event.nativeModifiers() & kCapsLock) press.modifiers = press.modifiers | Modifier::capsLock;
+  return press;
+}
+
+}  // namespace brimle

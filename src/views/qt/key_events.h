@@ -1,0 +1,18 @@
+// Qt's key events as the key tables see them: the one place where the desktop's keys and modifiers are
+// reduced.
+#pragma once
+
+#include <QKeyEvent>
+
+#include "control/keys.h"
+
+namespace brimle {
+
+/// Command is Ctrl, Option is Alt, Control is Super. Num Lock and the number pad are left out.
+Modifiers modifiersOf(Qt::KeyboardModifiers modifiers);
+
+/// Letters count by what they type; on a keyboard whose letters are not Latin, by where they are on a Latin
+/// one.
+KeyPress keyPressOf(const QKeyEvent& event);
+
+}  // namespace brimle
