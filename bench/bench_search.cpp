@@ -11,7 +11,8 @@ namespace brimle::bench {
 namespace {
 
 /// Found nearly everywhere, often, rarely and nowhere; in one letter and in many; not ASCII.
-constexpr const char* kQueries[] = {"e", "an", "milk", "invoice for", "ü", "zzz", "qu", "no such words at all"};
+constexpr const char* kQueries[] = {"e", "an",  "milk", "invoice for",
+                                    "ü", "zzz", "qu",   "no such words at all"};
 
 /// All texts of the archive as one run of folded bytes.
 std::string foldedBytes(const std::vector<ArchiveDay>& days) {

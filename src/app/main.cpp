@@ -88,7 +88,8 @@ int run(int argc, char** argv) {
   SelectionModel sel(time);
   Signal<> todayFocusAdd;
   ContentView content(store, time);
-  MainWindow mainWindow({store, content, ui, sel, time, todayFocusAdd}, pasteboard);
+  ArchiveView archive(store, sel, ui, time);
+  MainWindow mainWindow({store, content, archive, ui, sel, time, todayFocusAdd}, pasteboard);
   window = &mainWindow;
 
   const auto appearance = preferences.string("appearance");

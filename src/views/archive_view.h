@@ -15,6 +15,7 @@
 #include "control/selection_model.h"
 #include "model/store.h"
 #include "views/archive_timeline.h"
+#include "views/date_hint.h"
 #include "views/menu_item.h"
 
 namespace brimle {
@@ -42,6 +43,9 @@ class ArchiveView {
 
   /// The context menu of a scheduled task or of an archived entry.
   std::vector<MenuItem> menu(const TimelineRow& row);
+
+  /// "→ Sat, 20 Jun 2026" while the text holds a date token; else empty.
+  std::string dateHint(std::string_view text) const { return brimle::dateHint(text, store_.entryContext()); }
 
   // Editing scheduled tasks.
   const std::optional<Editor>& editor() const { return editor_; }

@@ -2,8 +2,8 @@
 
 #include "base/text.h"
 #include "entry/date_token.h"
-#include "i18n/dates.h"
 #include "i18n/i18n.h"
+#include "views/date_hint.h"
 
 namespace brimle {
 namespace {
@@ -102,8 +102,7 @@ void RowView::noteFocusLost(const Uuid& id, std::int64_t index) {
 }
 
 std::string RowView::dateHint(std::string_view text) const {
-  const auto dated = extractDateToken(text, store_.entryContext());
-  return dated ? "→ " + prettyDay(dayKey(dated->day)) : std::string();
+  return brimle::dateHint(text, store_.entryContext());
 }
 
 void RowView::setRepeatChoice(const Uuid& id, RepeatChoice choice) {

@@ -1,4 +1,5 @@
-// The header of today's list: the date, how much is open, and how much waits for tomorrow.
+// The header: the date, how much is open and how much waits for tomorrow; of the archive, which days and how many
+// entries; and the way from one to the other.
 import QtQuick
 import Brimle
 
@@ -6,6 +7,7 @@ Item {
     id: header
 
     required property Today today
+    required property ArchiveScreen archive
 
     implicitHeight: 36 + title.implicitHeight + 8
 
@@ -13,8 +15,8 @@ Item {
         id: title
         x: 12
         y: 36
-        width: Math.min(implicitWidth, parent.width - 28)
-        text: header.today.dateLine
+        width: Math.min(implicitWidth, turn.x - x - 8)
+        text: header.today.title
         textFormat: Text.PlainText
         elide: Text.ElideRight
         color: Theme.primary
@@ -37,7 +39,7 @@ Item {
 
     Text {
         id: tomorrow
-        anchors { right: parent.right; rightMargin: 16; baseline: title.baseline }
+        anchors { right: turn.left; rightMargin: 8; baseline: title.baseline }
         text: header.today.tomorrowLabel
         textFormat: Text.PlainText
         color: Theme.tertiary
@@ -47,5 +49,13 @@ Item {
             target: tomorrow
             text: header.today.tomorrowTooltip
         }
+    }
+
+    TextButton {
+        id: turn
+        anchors { right: parent.right; rightMargin: 16; baseline: title.baseline }
+        text: header.archive.showing ? Texts.of["Today"] : Texts.of["Archive"]
+        hint: header.archive.showing ? Texts.of["Back to today"] : Texts.of["Past days"]
+        onTriggered: header.archive.showing = !header.archive.showing
     }
 }

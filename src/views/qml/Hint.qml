@@ -2,6 +2,9 @@
 import QtQuick
 import Brimle
 
+// Ids of this file are read inside components of it, which Qt before 6.5 has no way to declare.
+// qmllint disable unqualified
+
 Item {
     id: hint
 
@@ -30,8 +33,8 @@ Item {
         id: box
         active: false
         sourceComponent: Window {
-            id: tip // qmllint disable
-            readonly property point place: hint.mapToGlobal(0, hint.height + 4) // qmllint disable unqualified
+            id: tip
+            readonly property point place: hint.mapToGlobal(0, hint.height + 4)
             flags: Qt.ToolTip | Qt.FramelessWindowHint | Qt.WindowDoesNotAcceptFocus
             x: place.x
             y: place.y
@@ -50,7 +53,7 @@ Item {
                 x: 8
                 y: 5
                 width: Math.min(implicitWidth, 320)
-                text: hint.text // qmllint disable unqualified
+                text: hint.text
                 textFormat: Text.PlainText
                 wrapMode: Text.Wrap
                 color: Theme.primary

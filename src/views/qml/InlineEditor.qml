@@ -1,5 +1,5 @@
-// A one-line editor in the place of a text. It takes the keyboard when it opens, with the caret at the end; Return
-// and Escape close it. A hint may follow the text.
+// A one-line editor in the place of a text. It takes the keyboard when it opens, with the caret at the end. Return is
+// done, Escape dismisses, which means whatever its owner makes of it. A hint may follow the text.
 import QtQuick
 import Brimle
 
@@ -13,6 +13,7 @@ Item {
     readonly property alias text: input.text
     signal edited(typed: string)
     signal done
+    signal dismissed
     signal focusLost
 
     implicitHeight: input.height
@@ -27,7 +28,7 @@ Item {
         selectionColor: Theme.faded(Theme.primary, 0.7)
         onTextEdited: editor.edited(text)
         onAccepted: editor.done()
-        Keys.onEscapePressed: editor.done()
+        Keys.onEscapePressed: editor.dismissed()
         onActiveFocusChanged: if (!activeFocus) editor.focusLost()
         Accessible.role: Accessible.EditableText
         Accessible.name: Texts.of["Edit"]

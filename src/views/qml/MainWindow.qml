@@ -6,6 +6,7 @@ Window {
     id: window
 
     required property Today today
+    required property ArchiveScreen archive
 
     width: 300
     height: 400
@@ -23,6 +24,7 @@ Window {
     TodayView {
         anchors.fill: parent
         today: window.today
+        archive: window.archive
     }
 
     WindowButtons {

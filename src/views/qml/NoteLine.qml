@@ -2,6 +2,9 @@
 import QtQuick
 import Brimle
 
+// Ids of this file are read inside components of it, which Qt before 6.5 has no way to declare.
+// qmllint disable unqualified
+
 Item {
     id: note
 
@@ -40,12 +43,13 @@ Item {
         width: parent.width - x
         active: note.editing
         sourceComponent: InlineEditor {
-            initialText: note.noteText // qmllint disable unqualified
+            initialText: note.noteText
             font { family: Theme.fontFamily; pixelSize: Theme.baseSize - 2 }
             color: Theme.secondary
-            onEdited: (typed) => note.today.setNote(note.taskId, note.index, typed) // qmllint disable unqualified
-            onDone: note.today.endNoteEdit(note.taskId, note.index) // qmllint disable unqualified
-            onFocusLost: note.today.noteFocusLost(note.taskId, note.index) // qmllint disable unqualified
+            onEdited: (typed) => note.today.setNote(note.taskId, note.index, typed)
+            onDone: note.today.endNoteEdit(note.taskId, note.index)
+            onDismissed: note.today.endNoteEdit(note.taskId, note.index)
+            onFocusLost: note.today.noteFocusLost(note.taskId, note.index)
         }
     }
 }

@@ -3,6 +3,9 @@
 import QtQuick
 import Brimle
 
+// Ids of this file are read inside components of it, which Qt before 6.5 has no way to declare.
+// qmllint disable unqualified
+
 Item {
     id: line
 
@@ -52,13 +55,14 @@ Item {
             width: parent.width
             active: line.editing
             sourceComponent: InlineEditor {
-                initialText: line.taskText // qmllint disable unqualified
-                hint: line.today.dateHint(text) // qmllint disable unqualified
+                initialText: line.taskText
+                hint: line.today.dateHint(text)
                 font { family: Theme.fontFamily; pixelSize: Theme.baseSize }
                 color: Theme.primary
-                onEdited: (typed) => line.today.setText(line.taskId, typed) // qmllint disable unqualified
-                onDone: line.today.endEdit(line.taskId) // qmllint disable unqualified
-                onFocusLost: line.today.textFocusLost(line.taskId) // qmllint disable unqualified
+                onEdited: (typed) => line.today.setText(line.taskId, typed)
+                onDone: line.today.endEdit(line.taskId)
+                onDismissed: line.today.endEdit(line.taskId)
+                onFocusLost: line.today.textFocusLost(line.taskId)
             }
         }
     }

@@ -3,6 +3,9 @@
 import QtQuick
 import Brimle
 
+// Ids of this file are read inside components of it, which Qt before 6.5 has no way to declare.
+// qmllint disable unqualified
+
 ListView {
     id: list
 
@@ -19,7 +22,7 @@ ListView {
 
     delegate: TaskRow {
         width: ListView.view.width
-        today: list.today // qmllint disable unqualified
+        today: list.today
     }
 
     DropArea {

@@ -2,6 +2,9 @@
 import QtQuick
 import Brimle
 
+// Ids of this file are read inside components of it, which Qt before 6.5 has no way to declare.
+// qmllint disable unqualified
+
 Item {
     id: row
 
@@ -45,12 +48,12 @@ Item {
         Rectangle {
             required property color modelData
 
-            x: content.x - 6 // qmllint disable unqualified
-            width: content.width + 12 // qmllint disable unqualified
-            height: row.height // qmllint disable unqualified
+            x: content.x - 6
+            width: content.width + 12
+            height: row.height
             radius: 4
             color: modelData
-            opacity: content.opacity // qmllint disable unqualified
+            opacity: content.opacity
         }
     }
 
@@ -90,10 +93,10 @@ Item {
 
             NoteLine {
                 width: parent.width
-                noteText: row.notes[index] ?? "" // qmllint disable unqualified
-                today: row.today // qmllint disable unqualified
-                taskId: row.taskId // qmllint disable unqualified
-                editing: row.noteEditing === index // qmllint disable unqualified
+                noteText: row.notes[index] ?? ""
+                today: row.today
+                taskId: row.taskId
+                editing: row.noteEditing === index
             }
         }
     }

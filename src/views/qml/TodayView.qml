@@ -1,16 +1,22 @@
-// Today: the header with date and counts, a thin rule, the tasks, and the entry field at the bottom.
+// The window's content: the header, a thin rule, then today's tasks over the entry field, or the archive over its
+// search box.
 import QtQuick
 import Brimle
+
+// Ids of this file are read inside components of it, which Qt before 6.5 has no way to declare.
+// qmllint disable unqualified
 
 Item {
     id: view
 
     required property Today today
+    required property ArchiveScreen archive
 
     Header {
         id: header
         anchors { left: parent.left; right: parent.right; top: parent.top }
         today: view.today
+        archive: view.archive
     }
 
     Rectangle {
@@ -20,21 +26,35 @@ Item {
         color: Theme.faded(Theme.primary, 0.08)
     }
 
-    TaskList {
-        id: tasks
-        anchors {
-            left: parent.left; right: parent.right; top: rule.bottom; bottom: entry.top
-            topMargin: 4; leftMargin: 16; rightMargin: 16; bottomMargin: 8
+    Item {
+        id: body
+        anchors { left: parent.left; right: parent.right; top: rule.bottom; bottom: parent.bottom; topMargin: 4 }
+
+        TaskList {
+            id: tasks
+            anchors { fill: parent; leftMargin: 16; rightMargin: 16; bottomMargin: entry.height + 20 }
+            visible: !view.archive.showing
+            today: view.today
         }
-        today: view.today
-    }
+        ScrollMark {
+            flickable: tasks
+            visible: tasks.visible && tasks.visibleArea.heightRatio < 1
+        }
+        EntryField {
+            id: entry
+            anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: 12 }
+            visible: !view.archive.showing
+            today: view.today
+            tallest: view.height - header.height - 80
+        }
 
-    ScrollMark { flickable: tasks }
-
-    EntryField {
-        id: entry
-        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: 12 }
-        today: view.today
-        tallest: view.height - header.height - 80
+        // Made when it is shown, and gone when it is left.
+        Loader {
+            anchors.fill: parent
+            active: view.archive.showing
+            sourceComponent: ArchivePage {
+                archive: view.archive
+            }
+        }
     }
 }

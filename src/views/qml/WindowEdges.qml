@@ -2,6 +2,9 @@
 import QtQuick
 import Brimle
 
+// Ids of this file are read inside components of it, which Qt before 6.5 has no way to declare.
+// qmllint disable unqualified
+
 Item {
     id: edges
 
@@ -35,7 +38,7 @@ Item {
             width: modelData.h === 0 ? edges.width - 2 * edges.reach : edges.reach
             height: modelData.v === 0 ? edges.height - 2 * edges.reach : edges.reach
             cursorShape: modelData.shape
-            onPressed: edges.target.startSystemResize(modelData.edge) // qmllint disable unqualified
+            onPressed: edges.target.startSystemResize(modelData.edge)
         }
     }
 }

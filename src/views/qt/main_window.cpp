@@ -23,8 +23,10 @@ MainWindow::MainWindow(Today::Parts parts, Pasteboard& pasteboard)
       todayFocusAdd_(parts.todayFocusAdd),
       theme_(parts.ui),
       texts_(parts.ui),
-      today_(parts) {
-  engine_.setInitialProperties({{QStringLiteral("today"), QVariant::fromValue(&today_)}});
+      today_(parts),
+      archive_(parts.store, parts.sel, parts.ui, parts.archive) {
+  engine_.setInitialProperties({{QStringLiteral("today"), QVariant::fromValue(&today_)},
+                                {QStringLiteral("archive"), QVariant::fromValue(&archive_)}});
   engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Brimle/MainWindow.qml")));
   if (engine_.rootObjects().isEmpty()) qFatal("the window could not be made");
   window_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().constFirst());

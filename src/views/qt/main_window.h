@@ -10,6 +10,7 @@
 #include "control/click_away.h"
 #include "control/key_filter.h"
 #include "platform/pasteboard.h"
+#include "views/qt/archive_screen.h"
 #include "views/qt/texts.h"
 #include "views/qt/theme.h"
 #include "views/qt/today.h"
@@ -48,6 +49,7 @@ class MainWindow : public QObject {
   Theme theme_;
   Texts texts_;
   Today today_;
+  ArchiveScreen archive_;
   QQmlApplicationEngine engine_;
   QQuickWindow* window_ = nullptr;
   std::function<void()> closed_;

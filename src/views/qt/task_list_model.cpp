@@ -7,6 +7,7 @@
 
 #include "views/list_diff.h"
 #include "views/qt/convert.h"
+#include "views/qt/row_changes.h"
 #include "views/row_text.h"
 #include "views/row_view.h"
 #include "views/web_link.h"
@@ -101,36 +102,11 @@ void TaskListModel::refresh() {
 }
 
 void TaskListModel::reorder(const std::vector<Row>& next) {
-  const auto at = [this](std::size_t row) { return rows_.begin() + static_cast<std::ptrdiff_t>(row); };
-  for (const RowChange& change : rowChanges(idsOf(rows_), idsOf(next))) {
-    const int first = static_cast<int>(change.at);
-    const int last = static_cast<int>(change.at + change.count) - 1;
-    switch (change.kind) {
-      case RowChange::Kind::remove:
-        beginRemoveRows({}, first, last);
-        rows_.erase(at(change.at), at(change.at + change.count));
-        endRemoveRows();
-        break;
-      case RowChange::Kind::insert: {
-        const auto from = next.begin() + static_cast<std::ptrdiff_t>(change.at);
-        beginInsertRows({}, first, last);
-        rows_.insert(at(change.at), from, from + static_cast<std::ptrdiff_t>(change.count));
-        endInsertRows();
-        break;
-      }
-      case RowChange::Kind::move: {
-        const bool down = change.at < change.to;
-        beginMoveRows({}, first, first, {}, static_cast<int>(change.to) + (down ? 1 : 0));
-        if (down) {
-          std::rotate(at(change.at), at(change.at + 1), at(change.to + 1));
-        } else {
-          std::rotate(at(change.to), at(change.at), at(change.at + 1));
-        }
-        endMoveRows();
-        break;
-      }
-    }
-  }
+  const RowChangeSignals tell{
+      [this](int first, int last) { beginRemoveRows({}, first, last); },   [this] { endRemoveRows(); },
+      [this](int first, int last) { beginInsertRows({}, first, last); },   [this] { endInsertRows(); },
+      [this](int from, int to) { beginMoveRows({}, from, from, {}, to); }, [this] { endMoveRows(); }};
+  applyRowChanges(rowChanges(idsOf(rows_), idsOf(next)), rows_, next, tell);
 }
 
 void TaskListModel::updateValues(std::vector<Row> next) {

@@ -19,7 +19,8 @@ void withId(const QString& text, Action action) {
 }  // namespace
 
 Today::Today(Parts parts)
-    : content_(parts.content),
+    : parts_(parts),
+      header_(headerLook(parts.content, parts.archive, parts.ui)),
       rows_(parts.store, parts.sel, parts.time),
       commands_(parts.store, parts.sel),
       drag_(parts.store),
@@ -27,34 +28,39 @@ Today::Today(Parts parts)
       tasks_(parts.store, parts.sel) {
   subscriptions_.push_back(parts.store.observe([this](const Store::Changes&) {
     tasks_.refresh();
-    emit changed();
+    refreshHeader();
   }));
   subscriptions_.push_back(parts.sel.observe([this] { tasks_.refresh(); }));
-  subscriptions_.push_back(parts.ui.observe([this] { emit changed(); }));
+  subscriptions_.push_back(parts.ui.observe([this] { refreshHeader(); }));
   subscriptions_.push_back(reactions_.onFocusAdd([this] { emit focusAdd(); }));
 }
 
-QString Today::dateLine() const {
-  return toQt(content_.dateLine());
+void Today::refreshHeader() {
+  header_ = headerLook(parts_.content, parts_.archive, parts_.ui);
+  emit changed();
+}
+
+QString Today::title() const {
+  return toQt(header_.title);
 }
 QString Today::count() const {
-  return toQt(content_.count().text);
+  return toQt(header_.count.text);
 }
 bool Today::allDone() const {
-  return content_.count().allDone;
+  return header_.count.allDone;
 }
 QString Today::tomorrowLabel() const {
-  return toQt(content_.tomorrowLabel());
+  return toQt(header_.tomorrowLabel);
 }
 QString Today::tomorrowTooltip() const {
-  return toQt(content_.tomorrowTooltip());
+  return toQt(header_.tomorrowTooltip);
 }
 QString Today::draggingId() const {
   return drag_.draggingID() ? toQt(*drag_.draggingID()) : QString();
 }
 
 void Today::commit(const QString& draft, bool toTomorrow) {
-  content_.commitDraft(fromQt(draft), toTomorrow);
+  parts_.content.commitDraft(fromQt(draft), toTomorrow);
 }
 
 void Today::toggle(const QString& taskId) {

@@ -10,6 +10,7 @@
 #include "prefs/ui_state.h"
 #include "views/content_reactions.h"
 #include "views/content_view.h"
+#include "views/header_view.h"
 #include "views/qt/task_list_model.h"
 #include "views/row_drag.h"
 #include "views/row_view.h"
@@ -21,7 +22,7 @@ class Today : public QObject {
   QML_ELEMENT
   QML_UNCREATABLE("made by the program")
   Q_PROPERTY(QAbstractItemModel* tasks READ tasks CONSTANT)
-  Q_PROPERTY(QString dateLine READ dateLine NOTIFY changed)
+  Q_PROPERTY(QString title READ title NOTIFY changed)
   Q_PROPERTY(QString count READ count NOTIFY changed)
   Q_PROPERTY(bool allDone READ allDone NOTIFY changed)
   Q_PROPERTY(QString tomorrowLabel READ tomorrowLabel NOTIFY changed)
@@ -33,6 +34,7 @@ class Today : public QObject {
   struct Parts {
     Store& store;
     ContentView& content;
+    ArchiveView& archive;
     UIState& ui;
     SelectionModel& sel;
     Time& time;
@@ -41,7 +43,7 @@ class Today : public QObject {
   explicit Today(Parts parts);
 
   QAbstractItemModel* tasks() { return &tasks_; }
-  QString dateLine() const;
+  QString title() const;
   QString count() const;
   bool allDone() const;
   QString tomorrowLabel() const;
@@ -87,7 +89,10 @@ class Today : public QObject {
   void releaseKeyboard();
 
  private:
-  ContentView& content_;
+  void refreshHeader();
+
+  const Parts parts_;
+  HeaderLook header_;
   RowView rows_;
   RowCommands commands_;
   RowDrag drag_;

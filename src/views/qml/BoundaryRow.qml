@@ -1,0 +1,39 @@
+// The boundary between the days to come and the past ones.
+import QtQuick
+import Brimle
+
+Item {
+    id: boundary
+
+    required property string text
+    required property bool first
+
+    implicitHeight: (first ? 0 : 16) + word.height + 8
+
+    Row {
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; bottomMargin: 8 }
+        spacing: 5
+
+        Rectangle {
+            anchors.verticalCenter: parent.verticalCenter
+            width: (boundary.width - word.width) / 2 - 5
+            height: 1
+            color: Theme.faded(Theme.primary, 0.08)
+        }
+        Text {
+            id: word
+            text: boundary.text
+            textFormat: Text.PlainText
+            color: Theme.tertiary
+            font { family: Theme.fontFamily; pixelSize: 10; weight: Font.DemiBold }
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+        }
+        Rectangle {
+            anchors.verticalCenter: parent.verticalCenter
+            width: (boundary.width - word.width) / 2 - 5
+            height: 1
+            color: Theme.faded(Theme.primary, 0.08)
+        }
+    }
+}

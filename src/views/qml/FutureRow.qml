@@ -1,0 +1,59 @@
+// A scheduled task: its text and notes, each with its editor in place.
+import QtQuick
+import Brimle
+
+// Ids of this file are read inside components of it, which Qt before 6.5 has no way to declare.
+// qmllint disable unqualified
+
+Item {
+    id: row
+
+    required property ArchiveScreen archive
+    required property string key
+    required property string text
+    required property var notes
+    required property bool editing
+    required property int noteEditing
+
+    implicitHeight: content.height + 4
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: text
+
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.RightButton
+        onClicked: row.archive.openMenu(row.key)
+    }
+
+    Column {
+        id: content
+        y: 2
+        width: parent.width
+
+        DraftText {
+            width: parent.width
+            archive: row.archive
+            text: row.text
+            editing: row.editing
+            color: Theme.primary
+            size: Theme.baseSize
+            onOpened: row.archive.beginEdit(row.key)
+        }
+        Repeater {
+            model: row.notes.length
+            DraftText {
+                required property int index
+                width: parent.width
+                visible: text !== "" || editing
+                archive: row.archive
+                text: row.notes[index] ?? ""
+                editing: row.noteEditing === index
+                isNote: true
+                color: editing ? Theme.secondary : Theme.tertiary
+                size: Theme.baseSize - 2
+                onOpened: row.archive.beginNoteEdit(row.key, index)
+            }
+        }
+    }
+}

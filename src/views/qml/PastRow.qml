@@ -1,0 +1,76 @@
+// An archived task: a mark for done or never ticked, its text, its notes.
+import QtQuick
+import Brimle
+
+Item {
+    id: row
+
+    required property ArchiveScreen archive
+    required property string key
+    required property string text
+    required property var notes
+    required property bool completed
+    required property bool selected
+
+    implicitHeight: content.height + 10
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: [text, completed ? Texts.of["ticked"] : "", selected ? Texts.of["selected"] : ""]
+        .filter(word => word !== "").join(", ")
+    Accessible.selected: selected
+
+    Rectangle {
+        anchors { fill: parent; leftMargin: -6; rightMargin: -6 }
+        radius: 4
+        visible: row.selected
+        color: Theme.selection
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        onClicked: (mouse) => {
+            if (mouse.button === Qt.RightButton) row.archive.openMenu(row.key)
+            else row.archive.select(row.key, mouse.modifiers)
+        }
+    }
+
+    Symbol {
+        x: 1.5
+        y: content.y + label.baselineOffset - 8.5
+        name: row.completed ? "checkmark" : "circle"
+        size: 9
+        color: row.completed ? Theme.secondary : Theme.faded(Theme.pencilRed, 0.7)
+    }
+
+    Column {
+        id: content
+        x: 21
+        y: 5
+        width: parent.width - x
+
+        Text {
+            id: label
+            width: parent.width
+            text: row.text
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+            horizontalAlignment: Text.AlignLeft
+            color: Theme.secondary
+            font { family: Theme.fontFamily; pixelSize: Theme.baseSize; strikeout: row.completed }
+        }
+        Repeater {
+            model: row.notes
+            Text {
+                required property string modelData
+                width: parent.width
+                visible: modelData !== ""
+                text: modelData
+                textFormat: Text.PlainText
+                wrapMode: Text.Wrap
+                color: Theme.tertiary
+                font { family: Theme.fontFamily; pixelSize: Theme.baseSize - 2 }
+            }
+        }
+    }
+}

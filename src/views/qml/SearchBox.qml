@@ -1,0 +1,51 @@
+// The search of the archive.
+import QtQuick
+import Brimle
+
+Rectangle {
+    id: box
+
+    required property ArchiveScreen archive
+
+    implicitHeight: input.height + 16
+    radius: 12
+    color: Theme.faded(Theme.primary, 0.05)
+
+    Symbol {
+        id: glass
+        x: 10
+        anchors.verticalCenter: parent.verticalCenter
+        name: "magnifyingglass"
+        size: 13
+        color: Theme.secondary
+    }
+
+    TextInput {
+        id: input
+        anchors { left: glass.right; leftMargin: 9; right: parent.right; rightMargin: 10; verticalCenter: parent.verticalCenter }
+        clip: true
+        selectByMouse: true
+        text: box.archive.query
+        color: Theme.primary
+        selectedTextColor: Theme.paper
+        selectionColor: Theme.faded(Theme.primary, 0.7)
+        font { family: Theme.fontFamily; pixelSize: Theme.baseSize }
+        onTextEdited: box.archive.query = text
+        Keys.onEscapePressed: {
+            if (text !== "") box.archive.query = ""
+            else box.archive.showing = false
+        }
+        Accessible.role: Accessible.EditableText
+        Accessible.name: Texts.of["Search archive"]
+
+        Text {
+            text: Texts.of["Search archive"]
+            textFormat: Text.PlainText
+            visible: input.length === 0 && input.preeditText.length === 0
+            color: Theme.placeholder
+            font: input.font
+        }
+    }
+
+    TapHandler { onTapped: input.forceActiveFocus() }
+}

@@ -1,0 +1,32 @@
+// A word that can be clicked.
+import QtQuick
+import Brimle
+
+Text {
+    id: button
+
+    required property string hint
+    signal triggered
+
+    textFormat: Text.PlainText
+    color: area.containsMouse ? Theme.primary : Theme.secondary
+    font { family: Theme.fontFamily; pixelSize: Theme.baseSize - 2 }
+
+    Accessible.role: Accessible.Button
+    Accessible.name: text
+    Accessible.description: hint
+    Accessible.onPressAction: triggered()
+
+    MouseArea {
+        id: area
+        anchors.fill: parent
+        anchors.margins: -4
+        hoverEnabled: true
+        onClicked: button.triggered()
+    }
+
+    Hint {
+        target: button
+        text: button.hint
+    }
+}

@@ -1,0 +1,75 @@
+#include "views/qt/archive_screen.h"
+
+#include "views/qt/context_menu.h"
+#include "views/qt/convert.h"
+#include "views/qt/key_events.h"
+#include "views/scroll_watch.h"
+
+namespace brimle {
+
+ArchiveScreen::ArchiveScreen(Store& store, SelectionModel& sel, UIState& ui, ArchiveView& view)
+    : store_(store), ui_(ui), view_(view), commands_(store, sel, ui), rows_(store, view, sel) {
+  subscriptions_.push_back(store.observe([this](const Store::Changes& changes) {
+    if (shown_ && (changes.has(Store::Field::archive) || changes.has(Store::Field::scheduled))) refresh();
+  }));
+  subscriptions_.push_back(sel.observe([this] { rows_.touch(); }));
+  subscriptions_.push_back(view.observe([this] { rows_.touch(); }));
+  subscriptions_.push_back(ui.observe([this] {
+    const bool searched = std::exchange(query_, ui_.archiveQuery()) != ui_.archiveQuery();
+    const bool turned = std::exchange(shown_, ui_.showingArchive()) != ui_.showingArchive();
+    if (turned && shown_) store_.prepareSearch();
+    if (turned && !shown_) rows_.clear();
+    if (shown_ && (turned || searched)) refresh();
+    emit changed();
+  }));
+}
+
+void ArchiveScreen::refresh() {
+  rows_.refresh();
+  emit rowsChanged();
+}
+
+QString ArchiveScreen::query() const {
+  return toQt(ui_.archiveQuery());
+}
+
+void ArchiveScreen::setQuery(const QString& query) {
+  if (query != this->query()) ui_.setArchiveQuery(fromQt(query));
+}
+
+void ArchiveScreen::boundaryMoved(double distance) {
+  const bool future = isViewingFuture(distance);
+  if (shown_ && future != ui_.archiveViewingFuture()) ui_.setArchiveViewingFuture(future);
+}
+
+void ArchiveScreen::select(const QString& key, int modifiers) {
+  if (const auto id = Uuid::parse(fromQt(key))) {
+    commands_.selectEntry(*id, modifiersOf(Qt::KeyboardModifiers::fromInt(modifiers)));
+  }
+  emit releaseKeyboard();
+}
+
+void ArchiveScreen::openMenu(const QString& key) {
+  const auto id = Uuid::parse(fromQt(key));
+  const TimelineRow* row = id ? rows_.find(*id) : nullptr;
+  if (row) popUpMenu(view_.menu(*row));
+}
+
+void ArchiveScreen::beginEdit(const QString& key) {
+  if (const auto id = Uuid::parse(fromQt(key))) view_.beginEdit(*id);
+}
+
+void ArchiveScreen::beginNoteEdit(const QString& key, int index) {
+  const auto id = Uuid::parse(fromQt(key));
+  if (id && index >= 0) view_.beginNoteEdit(*id, static_cast<std::size_t>(index));
+}
+
+QString ArchiveScreen::dateHint(const QString& text) const {
+  return toQt(view_.dateHint(fromQt(text)));
+}
+
+void ArchiveScreen::setDraft(const QString& draft) {
+  view_.setDraft(fromQt(draft));
+}
+
+}  // namespace brimle
