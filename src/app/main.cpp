@@ -4,6 +4,7 @@
 #include <QQuickWindow>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 
 #include "i18n/i18n.h"
 #include "i18n/region.h"
@@ -75,13 +76,14 @@ int run(int argc, char** argv) {
   QtTime time;
   QtDesktop desktop;
   QtPasteboard pasteboard;
-  MainWindow* window = nullptr;
-  const auto comeForward = [&window](const QByteArray& token) {
-    if (window) window->bringForward(token);
+  // Whoever asks the program to come forward also asks which day it is.
+  std::function<void(const QByteArray&)> comeForward;
+  const auto asked = [&comeForward](const QByteArray& token) {
+    if (comeForward) comeForward(token);
   };
-  QtInstance instance(comeForward);
+  QtInstance instance(asked);
   const bool reachable = instance.announce();
-  QtNotificationCenter notifications(time, files, folders.state / "brimle", comeForward);
+  QtNotificationCenter notifications(time, files, folders.state / "brimle", asked);
 
   Store store({time, files, desktop, notifications}, regionOf(locale.region), dataFolder);
   UIState ui(preferences, locale.preferredLanguages);
@@ -90,7 +92,10 @@ int run(int argc, char** argv) {
   ContentView content(store, time);
   ArchiveView archive(store, sel, ui, time);
   MainWindow mainWindow({store, content, archive, ui, sel, time, todayFocusAdd}, pasteboard);
-  window = &mainWindow;
+  comeForward = [&](const QByteArray& token) {
+    store.rolloverIfNeeded();
+    mainWindow.bringForward(token);
+  };
 
   const auto appearance = preferences.string("appearance");
   const bool systemIsDark = QApplication::palette().window().color().lightness() < 128;

@@ -110,7 +110,7 @@ bool KeyFilter::filter(const KeyPress& key, KeyboardPlace place) {
 bool KeyFilter::pasteAsTasks(const KeyPress& key) {
   if (!isPaste(key)) return false;
   const auto text = pasteboard_.string();
-  if (!text || (!containsNewline(*text) && text->size() <= kLongestShown)) return false;
+  if (!text || (!containsNewline(*text) && isShownWhole(*text))) return false;
   store_.addLines(*text, false);
   return true;
 }

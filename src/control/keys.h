@@ -40,7 +40,6 @@ class Modifiers {
   constexpr Modifiers() = default;
   constexpr Modifiers(Modifier modifier) : bits_(static_cast<std::uint8_t>(modifier)) {}
 
-  constexpr bool none() const { return bits_ == 0; }
   constexpr bool has(Modifier modifier) const { return (bits_ & static_cast<std::uint8_t>(modifier)) != 0; }
   constexpr Modifiers operator|(Modifiers other) const {
     other.bits_ |= bits_;

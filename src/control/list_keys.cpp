@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "base/limits.h"
 #include "control/key_table.h"
 #include "control/row_commands.h"
 #include "control/row_keys.h"
@@ -38,7 +39,10 @@ bool toggleDone(Press& press) {
 }
 
 bool editText(Press& press) {
-  press.sel.setEditingID(*press.sel.selection().begin());
+  const Uuid id = *press.sel.selection().begin();
+  const TodoItem* task = press.store.find(id);
+  if (task && !isShownWhole(task->text)) return false;
+  press.sel.setEditingID(id);
   return true;
 }
 

@@ -191,6 +191,12 @@ Archive Archive::without(const std::unordered_set<Uuid>& ids, std::vector<Archiv
 
 std::vector<Uuid> Archive::matchingIDs(std::string_view query) const {
   std::vector<Uuid> ids;
+  if (query.empty()) {
+    for (const ArchiveDay& day : *this) {
+      for (const ArchivedItem& entry : day.items) ids.push_back(entry.id);
+    }
+    return ids;
+  }
   for (const BlockPtr& block : blocks_) block->searchable().find(query, ids);
   return ids;
 }

@@ -50,10 +50,6 @@ void FoldedEntries::add(const FoldedEntries& other, std::size_t first, std::size
 }
 
 void FoldedEntries::find(std::string_view query, std::vector<Uuid>& matches) const {
-  if (query.empty()) {
-    matches.insert(matches.end(), ids_.begin(), ids_.end());
-    return;
-  }
   std::size_t entry = 0;
   for (std::size_t from = 0;;) {
     const std::size_t at = findWhole(bytes_, query, from);

@@ -19,8 +19,8 @@ class FoldedEntries {
 
   std::string_view bytes() const { return bytes_; }
 
-  /// Appends the ids of the entries of which the text or a note contains `query`, which is folded; of all
-  /// where it is empty. A match ends between characters: "e" is not found in an e that carries a mark.
+  /// Appends the ids of the entries of which the text or a note contains `query`, which is folded and not
+  /// empty. A match ends between characters: "e" is not found in an e that carries a mark.
   void find(std::string_view query, std::vector<Uuid>& matches) const;
 
  private:

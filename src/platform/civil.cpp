@@ -11,6 +11,11 @@ std::tm localTime(std::time_t seconds) {
   return local;
 }
 
+std::tm localTime(Instant instant) {
+  const auto seconds = std::chrono::floor<std::chrono::seconds>(instant).time_since_epoch().count();
+  return localTime(static_cast<std::time_t>(seconds));
+}
+
 Day dayOf(const std::tm& local) {
   return Day{std::chrono::year(local.tm_year + 1900),
              std::chrono::month(static_cast<unsigned>(local.tm_mon + 1)),
@@ -20,8 +25,11 @@ Day dayOf(const std::tm& local) {
 }  // namespace
 
 Day civilDay(Instant instant) {
-  const auto seconds = std::chrono::floor<std::chrono::seconds>(instant).time_since_epoch().count();
-  return dayOf(localTime(static_cast<std::time_t>(seconds)));
+  return dayOf(localTime(instant));
+}
+
+int civilHour(Instant instant) {
+  return localTime(instant).tm_hour;
 }
 
 Instant startOfDay(Day day) {

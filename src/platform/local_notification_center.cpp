@@ -1,7 +1,8 @@
 #include "platform/local_notification_center.h"
 
-#include <ctime>
 #include <utility>
+
+#include "platform/civil.h"
 
 namespace brimle {
 namespace {
@@ -12,14 +13,6 @@ using Quarters = std::chrono::duration<int, std::ratio<15 * 60>>;
 
 Path fileIn(const Path& folder) {
   return folder / "notifications";
-}
-
-int localHour(Instant instant) {
-  const auto seconds = std::chrono::floor<std::chrono::seconds>(instant).time_since_epoch().count();
-  const auto time = static_cast<std::time_t>(seconds);
-  std::tm local{};
-  localtime_r(&time, &local);
-  return local.tm_hour;
 }
 
 Seconds untilNextQuarter(Instant now) {
@@ -100,7 +93,7 @@ void LocalNotificationCenter::tend() {
   pending_.dropBefore(today);
   save();
   if (delivering_) return;
-  if (const NotificationRequest* request = pending_.due({today, localHour(now)}, failed_)) {
+  if (const NotificationRequest* request = pending_.due({today, civilHour(now)}, failed_)) {
     begin(*request);
   } else if (failed_.empty() && pending_.waitsFor(today)) {
     retryIn(untilNextQuarter(now));

@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "i18n/dates.h"
 #include "i18n/i18n.h"
+#include "views/row_text.h"
 
 namespace brimle {
 namespace {
@@ -20,7 +21,10 @@ std::string translated(std::string_view key) {
 
 std::string ArchiveView::title(const TimelineRow& row) const {
   switch (row.kind) {
-    case Kind::futureDay: return futureDayLabel(store_.scheduled()[row.index].date);
+    case Kind::futureDay:
+      // Between a change of the store and the refresh that follows it a row may name an entry that has gone.
+      if (row.index >= store_.scheduled().size()) return {};
+      return futureDayLabel(store_.scheduled()[row.index].date);
     case Kind::boundary: return translated("Today");
     case Kind::nothing:
       return translated(store_.archive().empty() ? "Past days will collect here at midnight." : "No matches");
@@ -61,13 +65,15 @@ void ArchiveView::open(std::optional<Editor> editor) {
 
 void ArchiveView::beginEdit(const Uuid& id) {
   commit();
-  if (const ScheduledItem* entry = find(id)) open(Editor{id, std::nullopt, entry->item.text});
+  const ScheduledItem* entry = find(id);
+  if (entry && isShownWhole(entry->item.text)) open(Editor{id, std::nullopt, entry->item.text});
 }
 
 void ArchiveView::beginNoteEdit(const Uuid& id, std::size_t index) {
   commit();
   const ScheduledItem* entry = find(id);
-  if (entry && index < entry->item.notes.size()) open(Editor{id, index, entry->item.notes[index]});
+  if (!entry || index >= entry->item.notes.size() || !isShownWhole(entry->item.notes[index])) return;
+  open(Editor{id, index, entry->item.notes[index]});
 }
 
 void ArchiveView::addNote(const Uuid& id) {

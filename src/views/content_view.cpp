@@ -53,8 +53,4 @@ void ContentView::commitDraft(std::string_view draft, bool toTomorrow) {
   if (!trimmedLines(draft).empty()) store_.addLines(draft, toTomorrow);
 }
 
-void ContentView::toggle(const Uuid& id) {
-  if (const TodoItem* task = store_.find(id)) store_.setDone({id}, !task->done);
-}
-
 }  // namespace brimle

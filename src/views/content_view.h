@@ -36,8 +36,6 @@ class ContentView {
 
   /// Files what the entry field holds; a blank draft is dropped. The field has been cleared before.
   void commitDraft(std::string_view draft, bool toTomorrow);
-  /// Turns a task's tick over; nothing where it is gone.
-  void toggle(const Uuid& id);
 
  private:
   Store& store_;

@@ -10,7 +10,7 @@ bool continuesCharacter(char byte) {
 }  // namespace
 
 std::string shownText(std::string_view text) {
-  if (text.size() <= kLongestShown) return std::string(text);
+  if (isShownWhole(text)) return std::string(text);
   std::size_t length = kLongestShown;
   while (length > 0 && continuesCharacter(text[length])) --length;
   return std::string(text.substr(0, length)) + "…";

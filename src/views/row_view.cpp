@@ -1,5 +1,6 @@
 #include "views/row_view.h"
 
+#include "base/limits.h"
 #include "base/text.h"
 #include "entry/date_token.h"
 #include "i18n/i18n.h"
@@ -43,7 +44,8 @@ void RowView::write(const Uuid& id, Change change) {
 }
 
 void RowView::beginEdit(const Uuid& id) {
-  if (sel_.noteEditingID() != id) sel_.setEditingID(id);
+  const TodoItem* task = store_.find(id);
+  if (task && isShownWhole(task->text) && sel_.noteEditingID() != id) sel_.setEditingID(id);
 }
 
 void RowView::setText(const Uuid& id, std::string_view text) {
@@ -74,6 +76,10 @@ void RowView::beginNoteEdit(const Uuid& id, std::int64_t index) {
   if (const auto open = sel_.noteEditingID()) {
     const std::int64_t openIndex = sel_.noteEditingIndex();
     if (cleanupNote(store_, *open, openIndex) && open == id && openIndex < index) --index;
+  }
+  const TodoItem* task = store_.find(id);
+  if (!task || !hasNote(*task, index) || !isShownWhole(task->notes[static_cast<std::size_t>(index)])) {
+    return sel_.setNoteEditingID(std::nullopt);
   }
   sel_.setNoteEditingIndex(index);
   sel_.setNoteEditingID(id);

@@ -34,19 +34,29 @@ bool endsAddress(char c) {
   return static_cast<unsigned char>(c) <= ' ' || c == '<' || c == '>' || c == '"' || c == 0x7F;
 }
 
-bool closesMoreThanOpens(std::string_view text) {
-  return std::any_of(kBrackets.begin(), kBrackets.end(), [&](const auto& bracket) {
-    return text.back() == bracket.second && std::count(text.begin(), text.end(), bracket.second) >
-                                                std::count(text.begin(), text.end(), bracket.first);
-  });
+/// For each kind of bracket, how many more of them `text` closes than it opens.
+std::array<std::ptrdiff_t, kBrackets.size()> surplusOfClosing(std::string_view text) {
+  std::array<std::ptrdiff_t, kBrackets.size()> surplus{};
+  for (std::size_t kind = 0; kind < kBrackets.size(); ++kind) {
+    surplus[kind] = std::count(text.begin(), text.end(), kBrackets[kind].second) -
+                    std::count(text.begin(), text.end(), kBrackets[kind].first);
+  }
+  return surplus;
 }
 
 /// The address at the start of `text`, without what ends the sentence around it.
 std::string_view addressIn(std::string_view text) {
   const auto end = std::find_if(text.begin(), text.end(), endsAddress);
   std::string_view address = text.substr(0, static_cast<std::size_t>(end - text.begin()));
+  auto surplus = surplusOfClosing(address);
+  const auto takeSurplus = [&](char last) {
+    for (std::size_t kind = 0; kind < kBrackets.size(); ++kind) {
+      if (last == kBrackets[kind].second) return surplus[kind]-- > 0;
+    }
+    return false;
+  };
   while (!address.empty() &&
-         (kSentenceEnds.find(address.back()) != std::string_view::npos || closesMoreThanOpens(address))) {
+         (kSentenceEnds.find(address.back()) != std::string_view::npos || takeSurplus(address.back()))) {
     address.remove_suffix(1);
   }
   return address;
@@ -58,11 +68,10 @@ std::optional<std::string> firstWebLink(std::string_view text) {
   for (std::size_t at = 0; at < text.size(); ++at) {
     if (at > 0 && isWordCharacter(text[at - 1])) continue;
     for (const Scheme& scheme : kSchemes) {
+      const std::size_t host = at + scheme.start.size();
       if (!startsWith(text.substr(at), scheme.start)) continue;
-      const std::string_view address = addressIn(text.substr(at));
-      if (address.size() > scheme.start.size() && isWordCharacter(address[scheme.start.size()])) {
-        return std::string(scheme.added) + std::string(address);
-      }
+      if (host == text.size() || !isWordCharacter(text[host])) continue;
+      return std::string(scheme.added) + std::string(addressIn(text.substr(at)));
     }
   }
   return std::nullopt;

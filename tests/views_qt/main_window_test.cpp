@@ -1,7 +1,5 @@
 #include "views/qt/main_window.h"
 
-#include <gmock/gmock.h>
-
 #include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>

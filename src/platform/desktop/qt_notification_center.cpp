@@ -19,8 +19,8 @@ constexpr auto kApplicationId = "org.brimle.Brimle";
 constexpr auto kClick = "default";
 constexpr int kServerDecides = -1;  ///< how long a notification stays
 
-/// The arguments of Notify. The title is plain text by the specification, the body only where the server
-/// reads no markup in it.
+/// The arguments of Notify. The title is plain text to every server, the body only to one that reads no
+/// markup in it.
 QVariantList notifyArguments(const NotificationRequest& request, uint replacedId,
                              const QStringList& capabilities) {
   const QString body = QString::fromStdString(request.body);

@@ -64,6 +64,12 @@ Rectangle {
         }
     }
 
+    EntryHighlighter {
+        field: edit.textDocument
+        today: field.today
+        theme: Theme
+    }
+
     ReturnKey {
         field: edit
         onCommit: (toTomorrow) => {
@@ -75,6 +81,11 @@ Rectangle {
 
     TapHandler {
         onTapped: edit.forceActiveFocus()
+    }
+
+    Hint {
+        target: field
+        text: Texts.of["Return adds · ⇧Return for another line · ⌥Return for tomorrow · \"task // note\" attaches a note · trailing ! pins, * repeats, *w repeats Mon–Fri"]
     }
 
     Connections {

@@ -19,6 +19,9 @@ MouseArea {
     readonly property bool dragged: drag.active
     onDraggedChanged: ghost.Drag.active = dragged
 
+    // A row moves; what comes from another program stays there, too.
+    function action(): int { return today.draggingId !== "" ? Qt.MoveAction : Qt.CopyAction }
+
     onClicked: (mouse) => {
         if (mouse.button === Qt.RightButton) today.openMenu(taskId)
         else today.select(taskId, mouse.modifiers)
@@ -39,11 +42,11 @@ MouseArea {
     DropArea {
         anchors.fill: parent
         onEntered: (drag) => {
-            drag.accept(Qt.MoveAction)
+            drag.accept(gestures.action())
             gestures.today.dragEntered(gestures.taskId)
         }
         onDropped: (drop) => {
-            drop.accept()
+            drop.accept(gestures.action())
             gestures.today.dropText(drop.text)
         }
     }

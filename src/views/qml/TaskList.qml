@@ -29,7 +29,7 @@ ListView {
         anchors.fill: parent
         z: -1
         onDropped: (drop) => {
-            drop.accept()
+            drop.accept(list.today.draggingId !== "" ? Qt.MoveAction : Qt.CopyAction)
             list.today.dropText(drop.text)
         }
     }

@@ -10,12 +10,6 @@
 Q_IMPORT_QML_PLUGIN(BrimlePlugin)
 
 namespace brimle {
-namespace {
-
-constexpr auto kShiftControl = Qt::ControlModifier | Qt::ShiftModifier;
-
-}  // namespace
-
 MainWindow::MainWindow(Today::Parts parts, Pasteboard& pasteboard)
     : store_(parts.store),
       keys_(parts.store, parts.sel, parts.ui, pasteboard, parts.todayFocusAdd),
@@ -61,17 +55,18 @@ bool MainWindow::eventFilter(QObject*, QEvent* event) {
 }
 
 bool MainWindow::handleKey(const QKeyEvent& event) {
-  return handleShortcut(event) || keys_.filter(keyPressOf(event), keyboardPlace());
+  const KeyPress key = keyPressOf(event);
+  return handleShortcut(key) || keys_.filter(key, keyboardPlace());
 }
 
 /// Commands of the whole program. A text field that can undo or redo its own typing comes first.
-bool MainWindow::handleShortcut(const QKeyEvent& event) {
-  const auto chord = event.modifiers() & ~Qt::KeypadModifier;
-  if (event.key() == Qt::Key_Z && chord == Qt::ControlModifier && !fieldTakes("canUndo")) {
+bool MainWindow::handleShortcut(const KeyPress& key) {
+  constexpr Modifiers shiftCommand = Modifier::shift | Modifier::command;
+  if (key.characters == "z" && key.modifiers == Modifier::command && !fieldTakes("canUndo")) {
     store_.undo();
-  } else if (event.key() == Qt::Key_Z && chord == kShiftControl && !fieldTakes("canRedo")) {
+  } else if (key.characters == "z" && key.modifiers == shiftCommand && !fieldTakes("canRedo")) {
     store_.redo();
-  } else if (event.key() == Qt::Key_Q && chord == Qt::ControlModifier) {
+  } else if (key.characters == "q" && key.modifiers == Modifier::command) {
     QCoreApplication::quit();
   } else {
     return false;

@@ -38,7 +38,7 @@ class MainWindow : public QObject {
 
  private:
   bool handleKey(const QKeyEvent& event);
-  bool handleShortcut(const QKeyEvent& event);
+  bool handleShortcut(const KeyPress& key);
   bool fieldTakes(const char* property) const;
   KeyboardPlace keyboardPlace() const;
 

@@ -3,11 +3,30 @@
 
 #include <algorithm>
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include "views/list_diff.h"
 
 namespace brimle {
+
+/// Runs refreshes of a model one after the other: a row that goes may close its editor, which changes the
+/// store and asks for a refresh while one is under way.
+class Refreshes {
+ public:
+  template <class Refresh>
+  void run(Refresh refresh) {
+    wanted_ = true;
+    if (running_) return;
+    running_ = true;
+    while (std::exchange(wanted_, false)) refresh();
+    running_ = false;
+  }
+
+ private:
+  bool wanted_ = false;
+  bool running_ = false;
+};
 
 /// A model's begin and end calls, which only the model itself may make. Rows are counted as Qt counts them.
 struct RowChangeSignals {

@@ -82,17 +82,20 @@ TaskListModel::Row TaskListModel::rowOf(const TodoItem& task) const {
   Row row{task};
   row.sweeping = store_.sweepingIDs().contains(task.id);
   row.selected = sel_.selection().contains(task.id);
-  // A text that is not shown whole is not edited either: what the field lacks would be lost.
-  row.editing = sel_.editingID() == task.id && task.text.size() <= kLongestShown;
+  row.editing = sel_.editingID() == task.id && isShownWhole(task.text);
   if (sel_.noteEditingID() == task.id) {
     const auto index = static_cast<std::size_t>(sel_.noteEditingIndex());
-    if (index < task.notes.size() && task.notes[index].size() <= kLongestShown)
+    if (index < task.notes.size() && isShownWhole(task.notes[index]))
       row.noteEditing = static_cast<int>(index);
   }
   return row;
 }
 
 void TaskListModel::refresh() {
+  refreshes_.run([this] { refreshOnce(); });
+}
+
+void TaskListModel::refreshOnce() {
   std::vector<Row> next;
   for (const TodoItem* task : store_.visibleItems()) {
     next.push_back(rowOf(*task));

@@ -8,6 +8,7 @@
 
 #include "control/selection_model.h"
 #include "model/store.h"
+#include "views/qt/row_changes.h"
 
 namespace brimle {
 
@@ -52,6 +53,7 @@ class TaskListModel : public QAbstractListModel {
     bool operator==(const Row&) const = default;
   };
 
+  void refreshOnce();
   Row rowOf(const TodoItem& task) const;
   void reorder(const std::vector<Row>& next);
   void updateValues(std::vector<Row> next);
@@ -59,6 +61,7 @@ class TaskListModel : public QAbstractListModel {
   const Store& store_;
   const SelectionModel& sel_;
   std::vector<Row> rows_;
+  Refreshes refreshes_;
 };
 
 }  // namespace brimle

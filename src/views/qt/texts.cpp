@@ -25,7 +25,7 @@ Texts* Texts::create(QQmlEngine*, QJSEngine*) {
 }
 
 void Texts::refresh(const UIState& ui) {
-  if (ui.language() == language_) return;
+  if (language_ == ui.language()) return;
   language_ = ui.language();
   texts_.clear();
   // Any table has all keys, and English is the keys themselves.

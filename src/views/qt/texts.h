@@ -7,6 +7,8 @@
 #include <QObject>
 #include <QQmlEngine>
 #include <QVariantMap>
+#include <optional>
+#include <string>
 
 #include "base/signal.h"
 #include "prefs/ui_state.h"
@@ -35,7 +37,7 @@ class Texts : public QObject {
  private:
   void refresh(const UIState& ui);
 
-  std::string language_;
+  std::optional<std::string> language_;  ///< the setting the texts were made for
   QVariantMap texts_;
   Subscription settings_;
 };

@@ -34,12 +34,18 @@ QColor labelColor(Palette::Label rank, Appearance appearance) {
 constexpr const char* kRoundedFamilies[] = {"Nunito", "Quicksand", "Varela Round", "M PLUS Rounded 1c",
                                             "Comfortaa"};
 
-QString roundedFamily() {
+QString findRoundedFamily() {
   const QStringList installed = QFontDatabase::families();
   for (const char* family : kRoundedFamilies) {
     if (installed.contains(QLatin1String(family))) return QLatin1String(family);
   }
   return QGuiApplication::font().family();
+}
+
+/// Looked for once: every text of the window asks, and listing the installed families is slow.
+QString roundedFamily() {
+  static const QString family = findRoundedFamily();
+  return family;
 }
 
 }  // namespace

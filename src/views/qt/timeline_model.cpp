@@ -99,6 +99,10 @@ QHash<int, QByteArray> TimelineModel::roleNames() const {
 }
 
 void TimelineModel::refresh() {
+  refreshes_.run([this] { refreshOnce(); });
+}
+
+void TimelineModel::refreshOnce() {
   auto next = view_.rows();
   const auto before = keysOf(rows_);
   const auto after = keysOf(next);

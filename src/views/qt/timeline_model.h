@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "views/archive_view.h"
+#include "views/qt/row_changes.h"
 
 namespace brimle {
 
@@ -42,12 +43,14 @@ class TimelineModel : public QAbstractListModel {
   int boundary() const { return static_cast<int>(boundaryRow(rows_)); }
 
  private:
+  void refreshOnce();
   QVariant taskData(const TimelineRow& row, int role) const;
 
   const Store& store_;
   const ArchiveView& view_;
   const SelectionModel& sel_;
   std::vector<TimelineRow> rows_;
+  Refreshes refreshes_;
 };
 
 }  // namespace brimle

@@ -49,6 +49,7 @@ class Today : public QObject {
   QString tomorrowLabel() const;
   QString tomorrowTooltip() const;
   QString draggingId() const;
+  EntryContext entryContext() const { return parts_.store.entryContext(); }
 
   // The entry field.
   Q_INVOKABLE void commit(const QString& draft, bool toTomorrow);
