@@ -17,6 +17,7 @@
 #include "platform/desktop/qt_notification_center.h"
 #include "platform/desktop/qt_pasteboard.h"
 #include "platform/desktop/qt_preferences_store.h"
+#include "platform/desktop/qt_settings_portal.h"
 #include "platform/desktop/qt_time.h"
 #include "platform/system_locale.h"
 #include "prefs/migration.h"
@@ -52,6 +53,15 @@ int handOver() {
   return 1;
 }
 
+/// The appearance that is forced by the setting; else the desktop's preference, or where it tells none, the
+/// one its own colours suggest.
+Appearance appearanceOf(const std::optional<std::string>& setting, std::optional<bool> desktopIsDark) {
+  if (setting == "light") return Appearance::light;
+  if (setting == "dark") return Appearance::dark;
+  const bool dark = desktopIsDark.value_or(QApplication::palette().window().color().lightness() < 128);
+  return dark ? Appearance::dark : Appearance::light;
+}
+
 int run(int argc, char** argv) {
   const Folders folders;
   const SystemLocale locale = systemLocale(environmentVariable);
@@ -74,7 +84,8 @@ int run(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
 
   QtTime time;
-  QtDesktop desktop;
+  QtSettingsPortal settings;
+  QtDesktop desktop(settings);
   QtPasteboard pasteboard;
   // Whoever asks the program to come forward also asks which day it is.
   std::function<void(const QByteArray&)> comeForward;
@@ -97,10 +108,13 @@ int run(int argc, char** argv) {
     mainWindow.bringForward(token);
   };
 
-  const auto appearance = preferences.string("appearance");
-  const bool systemIsDark = QApplication::palette().window().color().lightness() < 128;
-  mainWindow.theme().setAppearance(
-      appearance == "dark" || (appearance != "light" && systemIsDark) ? Appearance::dark : Appearance::light);
+  const auto applyAppearance = [&] {
+    mainWindow.theme().setAppearance(appearanceOf(preferences.string("appearance"), settings.dark()));
+    mainWindow.theme().setHighContrast(settings.highContrast());
+    mainWindow.theme().setReduceMotion(settings.reduceMotion());
+  };
+  const Subscription following = settings.observe(applyAppearance);
+  applyAppearance();
   // A window that nobody can ask for again must not be closed into nowhere.
   if (!reachable) mainWindow.onClose([] { QCoreApplication::quit(); });
   QObject::connect(&application, &QApplication::applicationStateChanged, &application, [&](auto state) {

@@ -26,10 +26,6 @@ int milliseconds(const Spring& spring) {
   return qRound(spring.duration() * 1000);
 }
 
-QColor labelColor(Palette::Label rank, Appearance appearance) {
-  return toQt(Palette::label(rank, appearance, false));
-}
-
 /// Typefaces with round ends, the one to prefer first; the plain one where none is installed.
 constexpr const char* kRoundedFamilies[] = {"Nunito", "Quicksand", "Varela Round", "M PLUS Rounded 1c",
                                             "Comfortaa"};
@@ -69,6 +65,12 @@ void Theme::setAppearance(Appearance appearance) {
   emit changed();
 }
 
+void Theme::setHighContrast(bool high) {
+  if (highContrast_ == high) return;
+  highContrast_ = high;
+  emit changed();
+}
+
 void Theme::setReduceMotion(bool reduce) {
   if (reduceMotion_ == reduce) return;
   reduceMotion_ = reduce;
@@ -88,16 +90,16 @@ QColor Theme::selection() const {
   return toQt(Palette::selection(appearance_));
 }
 QColor Theme::primary() const {
-  return labelColor(Palette::Label::primary, appearance_);
+  return toQt(Palette::label(Palette::Label::primary, appearance_, highContrast_));
 }
 QColor Theme::secondary() const {
-  return labelColor(Palette::Label::secondary, appearance_);
+  return toQt(Palette::label(Palette::Label::secondary, appearance_, highContrast_));
 }
 QColor Theme::tertiary() const {
-  return labelColor(Palette::Label::tertiary, appearance_);
+  return toQt(Palette::label(Palette::Label::tertiary, appearance_, highContrast_));
 }
 QColor Theme::placeholder() const {
-  return labelColor(Palette::Label::placeholder, appearance_);
+  return toQt(Palette::label(Palette::Label::placeholder, appearance_, highContrast_));
 }
 
 QString Theme::fontFamily() const {

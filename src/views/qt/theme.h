@@ -46,6 +46,7 @@ class Theme : public QObject {
   static Theme* create(QQmlEngine*, QJSEngine*);
 
   void setAppearance(Appearance appearance);
+  void setHighContrast(bool high);
   void setReduceMotion(bool reduce);
 
   QColor paper() const;
@@ -75,6 +76,7 @@ class Theme : public QObject {
   UIState& ui_;
   Subscription settings_;
   Appearance appearance_ = Appearance::light;
+  bool highContrast_ = false;
   bool reduceMotion_ = false;
 };
 

@@ -1,0 +1,91 @@
+#include "platform/desktop/qt_settings_portal.h"
+
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusMetaType>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
+
+using Groups = QMap<QString, QVariantMap>;
+Q_DECLARE_METATYPE(Groups)
+
+namespace brimle {
+namespace {
+
+constexpr auto kService = "org.freedesktop.portal.Desktop";
+constexpr auto kPath = "/org/freedesktop/portal/desktop";
+constexpr auto kInterface = "org.freedesktop.portal.Settings";
+
+// Where the settings are (the portal's documentation; the last two are the desktops' own).
+constexpr auto kAppearance = "org.freedesktop.appearance";
+constexpr auto kGnome = "org.gnome.desktop.interface";
+constexpr auto kKde = "org.kde.kdeglobals.KDE";
+
+/// Values may come wrapped in a variant once more.
+QVariant unwrapped(QVariant value) {
+  while (value.metaType() == QMetaType::fromType<QDBusVariant>())
+    value = value.value<QDBusVariant>().variant();
+  return value;
+}
+
+}  // namespace
+
+QtSettingsPortal::QtSettingsPortal() {
+  qDBusRegisterMetaType<Groups>();
+  QDBusConnection bus = QDBusConnection::sessionBus();
+  if (!bus.isConnected()) return;
+  bus.connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
+              SLOT(settingChanged(QDBusMessage)));
+  QDBusMessage request =
+      QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("ReadAll"));
+  request << QStringList{kAppearance, kGnome, kKde};
+  auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(request), this);
+  connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+    watcher->deleteLater();
+    const QDBusPendingReply<Groups> reply = *watcher;
+    if (reply.isError()) return;
+    const Groups groups = reply.value();
+    for (auto group = groups.begin(); group != groups.end(); ++group) {
+      for (auto entry = group->begin(); entry != group->end(); ++entry) {
+        values_[{group.key(), entry.key()}] = unwrapped(entry.value());
+      }
+    }
+    changed_.notify();
+  });
+}
+
+void QtSettingsPortal::settingChanged(const QDBusMessage& signal) {
+  const QVariantList arguments = signal.arguments();
+  if (arguments.size() != 3) return;
+  values_[{arguments[0].toString(), arguments[1].toString()}] = unwrapped(arguments[2]);
+  changed_.notify();
+}
+
+QVariant QtSettingsPortal::value(const char* group, const char* key) const {
+  const auto found = values_.find({QLatin1String(group), QLatin1String(key)});
+  return found == values_.end() ? QVariant() : found->second;
+}
+
+std::optional<bool> QtSettingsPortal::dark() const {
+  switch (value(kAppearance, "color-scheme").toUInt()) {
+    case 1: return true;
+    case 2: return false;
+    default: return std::nullopt;
+  }
+}
+
+bool QtSettingsPortal::highContrast() const {
+  return value(kAppearance, "contrast").toUInt() == 1;
+}
+
+bool QtSettingsPortal::reduceMotion() const {
+  const QVariant portal = value(kAppearance, "reduced-motion");
+  if (portal.isValid()) return portal.toUInt() == 1;
+  const QVariant gnome = value(kGnome, "enable-animations");
+  if (gnome.isValid()) return !gnome.toBool();
+  const QVariant kde = value(kKde, "AnimationDurationFactor");
+  return kde.isValid() && kde.toDouble() == 0;
+}
+
+}  // namespace brimle

@@ -1,0 +1,45 @@
+// What the desktop's user asked of all programs: a dark appearance, more contrast, less motion. Read from the
+// Settings portal (org.freedesktop.portal.Settings) without waiting for it, and followed live. Where there is
+// no portal nothing is asked for.
+#pragma once
+
+#include <QDBusMessage>
+#include <QObject>
+#include <QVariant>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "base/signal.h"
+
+namespace brimle {
+
+class QtSettingsPortal : public QObject {
+  Q_OBJECT
+
+ public:
+  /// Asks the portal; the answer arrives later.
+  QtSettingsPortal();
+
+  /// Whether dark is preferred to light; nothing where there is no preference.
+  std::optional<bool> dark() const;
+  bool highContrast() const;
+  bool reduceMotion() const;
+
+  [[nodiscard]] Subscription observe(std::function<void()> observer) {
+    return changed_.subscribe(std::move(observer));
+  }
+
+ private slots:
+  void settingChanged(const QDBusMessage& signal);
+
+ private:
+  QVariant value(const char* group, const char* key) const;
+
+  std::map<std::pair<QString, QString>, QVariant> values_;
+  Signal<> changed_;
+};
+
+}  // namespace brimle
