@@ -73,7 +73,23 @@ class Archive::BlockBuilder {
   std::shared_ptr<Block> block_ = std::make_shared<Block>();
 };
 
+/// What an archive holds of these blocks; null where there are none.
+std::shared_ptr<const Archive::Blocks> Archive::share(std::vector<BlockPtr> blocks) {
+  if (blocks.empty()) return nullptr;
+  Blocks shared{std::move(blocks), {}};
+  shared.pieces.reserve(shared.list.size());
+  for (const BlockPtr& block : shared.list) shared.pieces.push_back(block->json);
+  shared.pieces.front().remove_prefix(1);  // no comma before the first element
+  return std::make_shared<const Blocks>(std::move(shared));
+}
+
+const std::vector<Archive::BlockPtr>& Archive::blocks() const {
+  static const std::vector<BlockPtr> none;
+  return blocks_ ? blocks_->list : none;
+}
+
 Archive::Archive(std::vector<ArchiveDay> days) {
+  std::vector<BlockPtr> blocks;
   // The newest days come in the block that is not full, so that it can grow at its front.
   std::span<ArchiveDay> rest(days);
   while (!rest.empty()) {
@@ -81,9 +97,10 @@ Archive::Archive(std::vector<ArchiveDay> days) {
     const std::size_t count = partial > 0 ? partial : kBlockDays;
     BlockBuilder block;
     for (ArchiveDay& day : rest.first(count)) block.add(std::move(day));
-    blocks_.push_back(block.build());
+    blocks.push_back(block.build());
     rest = rest.subspan(count);
   }
+  blocks_ = share(std::move(blocks));
 }
 
 const ArchiveDay& Archive::Iterator::operator*() const {
@@ -110,19 +127,19 @@ Archive::Iterator Archive::Iterator::operator++(int) {
 
 Archive::Iterator Archive::begin() const {
   Iterator first;
-  first.block_ = blocks_.data();
+  first.block_ = blocks().data();
   return first;
 }
 
 Archive::Iterator Archive::end() const {
   Iterator last;
-  last.block_ = blocks_.data() + blocks_.size();
+  last.block_ = blocks().data() + blocks().size();
   return last;
 }
 
 std::size_t Archive::dayCount() const {
   std::size_t count = 0;
-  for (const auto& block : blocks_) count += block->days.size();
+  for (const auto& block : blocks()) count += block->days.size();
   return count;
 }
 
@@ -139,20 +156,19 @@ Archive::BlockPtr Archive::withFront(ArchiveDay front, const Block* rest, std::s
 }
 
 Archive Archive::withEntries(const std::string& date, std::vector<ArchivedItem> entries) const {
-  Archive result = *this;
+  std::vector<BlockPtr> changed = blocks();
   if (!empty() && front().date == date) {
     ArchiveDay day = front();
     day.items.insert(day.items.end(), std::make_move_iterator(entries.begin()),
                      std::make_move_iterator(entries.end()));
-    result.blocks_.front() = withFront(std::move(day), blocks_.front().get(), 1);
-    return result;
-  }
-  ArchiveDay day{date, std::move(entries)};
-  if (!empty() && blocks_.front()->days.size() < kBlockDays) {
-    result.blocks_.front() = withFront(std::move(day), blocks_.front().get(), 0);
+    changed.front() = withFront(std::move(day), changed.front().get(), 1);
+  } else if (!empty() && changed.front()->days.size() < kBlockDays) {
+    changed.front() = withFront({date, std::move(entries)}, changed.front().get(), 0);
   } else {
-    result.blocks_.insert(result.blocks_.begin(), withFront(std::move(day), nullptr, 0));
+    changed.insert(changed.begin(), withFront({date, std::move(entries)}, nullptr, 0));
   }
+  Archive result;
+  result.blocks_ = share(std::move(changed));
   return result;
 }
 
@@ -182,10 +198,12 @@ Archive::BlockPtr Archive::blockWithout(const BlockPtr& block, const std::unorde
 }
 
 Archive Archive::without(const std::unordered_set<Uuid>& ids, std::vector<ArchivedItem>& removed) const {
-  Archive result;
-  for (const BlockPtr& block : blocks_) {
-    if (auto rest = blockWithout(block, ids, removed)) result.blocks_.push_back(std::move(rest));
+  std::vector<BlockPtr> changed;
+  for (const BlockPtr& block : blocks()) {
+    if (auto rest = blockWithout(block, ids, removed)) changed.push_back(std::move(rest));
   }
+  Archive result;
+  result.blocks_ = share(std::move(changed));
   return result;
 }
 
@@ -197,12 +215,12 @@ std::vector<Uuid> Archive::matchingIDs(std::string_view query) const {
     }
     return ids;
   }
-  for (const BlockPtr& block : blocks_) block->searchable().find(query, ids);
+  for (const BlockPtr& block : blocks()) block->searchable().find(query, ids);
   return ids;
 }
 
 bool Archive::prepareSearch(std::size_t most) const {
-  for (const BlockPtr& block : blocks_) {
+  for (const BlockPtr& block : blocks()) {
     if (block->folded) continue;
     if (most-- == 0) return false;
     block->searchable();
@@ -211,12 +229,7 @@ bool Archive::prepareSearch(std::size_t most) const {
 }
 
 void Archive::appendEncoded(std::vector<std::string_view>& pieces) const {
-  pieces.reserve(pieces.size() + blocks_.size());
-  for (const auto& block : blocks_) {
-    std::string_view json = block->json;
-    if (&block == &blocks_.front()) json.remove_prefix(1);
-    pieces.push_back(json);
-  }
+  if (blocks_) pieces.insert(pieces.end(), blocks_->pieces.begin(), blocks_->pieces.end());
 }
 
 bool Archive::operator==(const Archive& other) const {

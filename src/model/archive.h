@@ -2,8 +2,8 @@
 //
 // A day is one immutable node held by a shared pointer. Days stand in blocks of about a month; a block keeps
 // the encoded bytes of its days, made once, and what a search compares, made when it is first needed. A copy
-// of the archive copies one pointer a block, a change to the newest day makes one new block, and a save hands
-// over the blocks' bytes as they are.
+// of the archive copies one pointer, a change to the newest day makes one new block, and a save hands over
+// the blocks' bytes as they are.
 #pragma once
 
 #include <cstdint>
@@ -51,7 +51,7 @@ class Archive {
 
   Iterator begin() const;
   Iterator end() const;
-  bool empty() const { return blocks_.empty(); }
+  bool empty() const { return !blocks_; }
   std::size_t dayCount() const;
   /// The newest day; the archive must not be empty.
   const ArchiveDay& front() const { return *begin(); }
@@ -84,7 +84,16 @@ class Archive {
   static BlockPtr blockWithout(const BlockPtr& block, const std::unordered_set<Uuid>& ids,
                                std::vector<ArchivedItem>& removed);
 
-  std::vector<BlockPtr> blocks_;  ///< none is empty
+  /// The blocks, none of them empty, and the bytes of each, side by side so that a save reads them in a row.
+  struct Blocks {
+    std::vector<BlockPtr> list;
+    std::vector<std::string_view> pieces;
+  };
+
+  static std::shared_ptr<const Blocks> share(std::vector<BlockPtr> blocks);
+  const std::vector<BlockPtr>& blocks() const;
+
+  std::shared_ptr<const Blocks> blocks_;  ///< null for the empty archive
 };
 
 }  // namespace brimle

@@ -18,7 +18,10 @@ std::size_t findWhole(std::string_view bytes, std::string_view query, std::size_
     const void* found = memmem(bytes.data() + from, bytes.size() - from, query.data(), query.size());
     if (!found) break;
     const auto at = static_cast<std::size_t>(static_cast<const char*>(found) - bytes.data());
-    if (!startsWithMark(bytes.substr(at + query.size()))) return at;
+    const std::string_view rest = bytes.substr(at + query.size());
+    const bool isAsciiNext =
+        !rest.empty() && static_cast<signed char>(rest.front()) >= 0;  // as nearly always
+    if (isAsciiNext || !startsWithMark(rest)) return at;
     from = at + 1;
   }
   return std::string_view::npos;
