@@ -26,7 +26,6 @@ Item {
         text: draft.text
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
-        horizontalAlignment: Text.AlignLeft
         color: draft.color
         font { family: Theme.fontFamily; pixelSize: draft.size }
 

@@ -42,6 +42,7 @@ Rectangle {
             id: edit
             width: scroller.width
             focus: true
+            activeFocusOnTab: true
             textFormat: TextEdit.PlainText
             wrapMode: TextEdit.Wrap
             selectByMouse: true
@@ -70,12 +71,26 @@ Rectangle {
         theme: Theme
     }
 
+    TextMenu { field: edit }
+
     ReturnKey {
         field: edit
         onCommit: (toTomorrow) => {
             const draft = edit.text
             edit.text = ""  // unlike clear(), which would leave the draft in the history of the field
             field.today.commit(draft, toTomorrow)
+        }
+    }
+
+    // Text from elsewhere goes where the caret is; more than a field can show becomes tasks, and a row only ends its
+    // drag.
+    DropArea {
+        anchors.fill: parent
+        onDropped: (drop) => {
+            drop.accept(Qt.CopyAction)
+            if (field.today.draggingId !== "" || drop.text.length > 16384) return field.today.dropText(drop.text)
+            edit.insert(edit.cursorPosition, drop.text)
+            edit.forceActiveFocus()
         }
     }
 
@@ -91,6 +106,5 @@ Rectangle {
     Connections {
         target: field.today
         function onFocusAdd() { edit.forceActiveFocus() }
-        function onReleaseKeyboard() { field.forceActiveFocus() }
     }
 }

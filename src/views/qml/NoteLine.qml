@@ -25,7 +25,6 @@ Item {
         text: note.noteText
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
-        horizontalAlignment: Text.AlignLeft
         color: Theme.faded(Theme.secondary, 0.55)
         font { family: Theme.fontFamily; pixelSize: Theme.baseSize - 2 }
         Accessible.role: Accessible.StaticText

@@ -30,7 +30,7 @@ Item {
         anchors.fill: parent
         acceptedButtons: Qt.LeftButton | Qt.RightButton
         onClicked: (mouse) => {
-            if (mouse.button === Qt.RightButton) row.archive.openMenu(row.key)
+            if (mouse.button === Qt.RightButton) row.archive.openMenu(row.key, mapToGlobal(mouse.x, mouse.y))
             else row.archive.select(row.key, mouse.modifiers)
         }
     }
@@ -55,7 +55,6 @@ Item {
             text: row.text
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
-            horizontalAlignment: Text.AlignLeft
             color: Theme.secondary
             font { family: Theme.fontFamily; pixelSize: Theme.baseSize; strikeout: row.completed }
         }

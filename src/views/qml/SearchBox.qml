@@ -22,6 +22,7 @@ Rectangle {
 
     TextInput {
         id: input
+        activeFocusOnTab: true
         anchors { left: glass.right; leftMargin: 9; right: parent.right; rightMargin: 10; verticalCenter: parent.verticalCenter }
         clip: true
         selectByMouse: true
@@ -46,6 +47,8 @@ Rectangle {
             font: input.font
         }
     }
+
+    TextMenu { field: input }
 
     TapHandler { onTapped: input.forceActiveFocus() }
 }

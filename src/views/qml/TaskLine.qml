@@ -44,7 +44,6 @@ Item {
             text: line.taskText
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
-            horizontalAlignment: Text.AlignLeft
             color: line.done ? Theme.secondary : Theme.primary
             font { family: Theme.fontFamily; pixelSize: Theme.baseSize; strikeout: line.done }
             HoverHandler { cursorShape: Qt.IBeamCursor }

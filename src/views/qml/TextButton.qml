@@ -12,9 +12,13 @@ Text {
     color: area.containsMouse ? Theme.primary : Theme.secondary
     font { family: Theme.fontFamily; pixelSize: Theme.baseSize - 2 }
 
+    activeFocusOnTab: true
+    Keys.onSpacePressed: triggered()
+    Keys.onReturnPressed: triggered()
     Accessible.role: Accessible.Button
     Accessible.name: text
     Accessible.description: hint
+    Accessible.focusable: true
     Accessible.onPressAction: triggered()
 
     MouseArea {
@@ -28,5 +32,7 @@ Text {
     Hint {
         target: button
         text: button.hint
+        alone: true
     }
+    FocusRing { target: button }
 }

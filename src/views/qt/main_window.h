@@ -4,9 +4,12 @@
 
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
+#include <QVariantAnimation>
 #include <functional>
 #include <memory>
+#include <optional>
 
+#include "base/rect.h"
 #include "control/click_away.h"
 #include "control/key_filter.h"
 #include "platform/pasteboard.h"
@@ -30,6 +33,13 @@ class MainWindow : public QObject {
   /// Shows the window, in front of others and with the keyboard in the entry field.
   void bringForward(const QByteArray& activationToken = {});
 
+  /// Where the window is, in points of the whole desktop.
+  Rect frame() const;
+  /// Moves and resizes the window, over a short time where motion is welcome.
+  void setFrame(const Rect& frame, bool animated);
+  /// What panels leave free of the screen the window is on; nothing where there is no screen.
+  std::optional<Rect> visibleScreen() const;
+
   /// What closing does beyond hiding the window; nothing unless set.
   void onClose(std::function<void()> action) { closed_ = std::move(action); }
 
@@ -39,6 +49,11 @@ class MainWindow : public QObject {
  private:
   bool handleKey(const QKeyEvent& event);
   bool handleShortcut(const KeyPress& key);
+  bool handleFocusKey(const QKeyEvent& event);
+  bool filterKey(const KeyPress& key);
+  bool askForMenu();
+  void moveFocus(bool forward);
+  bool pasteSelectionAsTasks();
   bool fieldTakes(const char* property) const;
   KeyboardPlace keyboardPlace() const;
 
@@ -52,6 +67,7 @@ class MainWindow : public QObject {
   ArchiveScreen archive_;
   QQmlApplicationEngine engine_;
   QQuickWindow* window_ = nullptr;
+  QVariantAnimation resizing_;
   std::function<void()> closed_;
 };
 
