@@ -125,6 +125,7 @@ int run(int argc, char** argv) {
         appearanceOf(preferences.string("appearance"), settings.dark().value_or(desktopLooksDark)));
     mainWindow.theme().setHighContrast(settings.highContrast());
     mainWindow.theme().setReduceMotion(settings.reduceMotion());
+    mainWindow.theme().setTextScale(settings.textScale());
   };
   const Subscription following = settings.observe(applyAppearance);
   applyAppearance();

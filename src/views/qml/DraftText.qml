@@ -27,7 +27,7 @@ Item {
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
         color: draft.color
-        font { family: Theme.fontFamily; pixelSize: draft.size }
+        font { family: Theme.fontFamily; pixelSize: Math.round(draft.size * Theme.textScale) }
 
         TapHandler { onDoubleTapped: draft.opened() }
     }
@@ -39,7 +39,7 @@ Item {
         sourceComponent: InlineEditor {
             initialText: draft.text
             hint: draft.isNote ? "" : draft.archive.dateHint(text)
-            font { family: Theme.fontFamily; pixelSize: draft.size }
+            font { family: Theme.fontFamily; pixelSize: Math.round(draft.size * Theme.textScale) }
             color: draft.color
             onEdited: (typed) => draft.archive.setDraft(typed)
             onDone: draft.archive.commit()

@@ -49,7 +49,7 @@ Rectangle {
             color: Theme.primary
             selectedTextColor: Theme.paper
             selectionColor: Theme.faded(Theme.primary, 0.7)
-            font { family: Theme.fontFamily; pixelSize: Theme.baseSize }
+            font { family: Theme.fontFamily; pixelSize: Math.round(Theme.baseSize * Theme.textScale) }
             onActiveFocusChanged: if (activeFocus) field.today.addFocused()
             onCursorRectangleChanged: scroller.showCaret()
             Accessible.role: Accessible.EditableText

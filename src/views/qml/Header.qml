@@ -46,7 +46,7 @@ Item {
         maximumLineCount: header.folded ? 1 : 2
         elide: Text.ElideRight
         color: Theme.primary
-        font { family: Theme.fontFamily; pixelSize: Theme.baseSize + 1; weight: Font.DemiBold }
+        font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize + 1) * Theme.textScale); weight: Font.DemiBold }
 
         activeFocusOnTab: true
         Keys.onSpacePressed: header.today.toggleCompact()
@@ -66,7 +66,7 @@ Item {
         text: header.today.count
         textFormat: Text.PlainText
         color: header.today.allDone ? Theme.pencilRed : Theme.secondary
-        font { family: Theme.fontFamily; pixelSize: Theme.baseSize - 2 }
+        font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
         Accessible.role: Accessible.StaticText
         Accessible.name: text
     }
@@ -80,7 +80,7 @@ Item {
         text: header.today.tomorrowLabel
         textFormat: Text.PlainText
         color: Theme.tertiary
-        font { family: Theme.fontFamily; pixelSize: Theme.baseSize - 3 }
+        font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize - 3) * Theme.textScale) }
         Accessible.role: Accessible.StaticText
         Accessible.name: text
         Accessible.description: header.today.tomorrowTooltip

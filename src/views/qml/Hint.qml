@@ -60,7 +60,7 @@ Item {
                 textFormat: Text.PlainText
                 wrapMode: Text.Wrap
                 color: Theme.primary
-                font { family: Theme.fontFamily; pixelSize: 11 }
+                font { family: Theme.fontFamily; pixelSize: Math.round(11 * Theme.textScale) }
             }
         }
     }

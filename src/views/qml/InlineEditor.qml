@@ -43,7 +43,7 @@ Item {
         text: editor.hint
         textFormat: Text.PlainText
         color: Theme.tertiary
-        font { family: input.font.family; pixelSize: Theme.baseSize - 2 }
+        font { family: input.font.family; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
     }
 
     /// Scrolls the list it stands in so far that it is seen.

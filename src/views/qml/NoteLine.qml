@@ -26,7 +26,7 @@ Item {
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
         color: Theme.faded(Theme.secondary, 0.55)
-        font { family: Theme.fontFamily; pixelSize: Theme.baseSize - 2 }
+        font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
         Accessible.role: Accessible.StaticText
         Accessible.name: Texts.of["Note"] + ": " + text
 
@@ -43,7 +43,7 @@ Item {
         active: note.editing
         sourceComponent: InlineEditor {
             initialText: note.noteText
-            font { family: Theme.fontFamily; pixelSize: Theme.baseSize - 2 }
+            font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
             color: Theme.secondary
             onEdited: (typed) => note.today.setNote(note.taskId, note.index, typed)
             onDone: note.today.endNoteEdit(note.taskId, note.index)

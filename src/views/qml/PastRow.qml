@@ -56,7 +56,7 @@ Item {
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
             color: Theme.secondary
-            font { family: Theme.fontFamily; pixelSize: Theme.baseSize; strikeout: row.completed }
+            font { family: Theme.fontFamily; pixelSize: Math.round(Theme.baseSize * Theme.textScale); strikeout: row.completed }
         }
         Repeater {
             model: row.notes
@@ -68,7 +68,7 @@ Item {
                 textFormat: Text.PlainText
                 wrapMode: Text.Wrap
                 color: Theme.tertiary
-                font { family: Theme.fontFamily; pixelSize: Theme.baseSize - 2 }
+                font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
             }
         }
     }

@@ -30,7 +30,7 @@ Rectangle {
         color: Theme.primary
         selectedTextColor: Theme.paper
         selectionColor: Theme.faded(Theme.primary, 0.7)
-        font { family: Theme.fontFamily; pixelSize: Theme.baseSize }
+        font { family: Theme.fontFamily; pixelSize: Math.round(Theme.baseSize * Theme.textScale) }
         onTextEdited: box.archive.query = text
         Keys.onEscapePressed: {
             if (text !== "") box.archive.query = ""

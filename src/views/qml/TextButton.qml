@@ -10,7 +10,7 @@ Text {
 
     textFormat: Text.PlainText
     color: area.containsMouse ? Theme.primary : Theme.secondary
-    font { family: Theme.fontFamily; pixelSize: Theme.baseSize - 2 }
+    font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
 
     activeFocusOnTab: true
     Keys.onSpacePressed: triggered()

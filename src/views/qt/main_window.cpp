@@ -33,7 +33,8 @@ MainWindow::MainWindow(Today::Parts parts, Pasteboard& pasteboard)
       theme_(parts.ui),
       texts_(parts.ui),
       today_(parts),
-      archive_(parts.store, parts.sel, parts.ui, parts.archive) {
+      archive_(parts.store, parts.sel, parts.ui, parts.archive),
+      shortcuts_(engine_, parts.ui, parts.store.entryContext().region) {
   engine_.setInitialProperties({{QStringLiteral("today"), QVariant::fromValue(&today_)},
                                 {QStringLiteral("archive"), QVariant::fromValue(&archive_)}});
   engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Brimle/MainWindow.qml")));
@@ -150,6 +151,8 @@ bool MainWindow::handleShortcut(const KeyPress& key) {
     store_.redo();
   } else if (key.characters == "q" && key.modifiers == Modifier::command) {
     QCoreApplication::quit();
+  } else if (key.characters == "/" && key.modifiers == Modifier::command) {
+    shortcuts_.show();
   } else {
     return false;
   }

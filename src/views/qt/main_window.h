@@ -14,6 +14,7 @@
 #include "control/key_filter.h"
 #include "platform/pasteboard.h"
 #include "views/qt/archive_screen.h"
+#include "views/qt/shortcuts_card.h"
 #include "views/qt/texts.h"
 #include "views/qt/theme.h"
 #include "views/qt/today.h"
@@ -29,6 +30,7 @@ class MainWindow : public QObject {
   ~MainWindow() override;
 
   Theme& theme() { return theme_; }
+  ShortcutsCard& shortcuts() { return shortcuts_; }
 
   /// Shows the window, in front of others and with the keyboard in the entry field.
   void bringForward(const QByteArray& activationToken = {});
@@ -66,6 +68,7 @@ class MainWindow : public QObject {
   Today today_;
   ArchiveScreen archive_;
   QQmlApplicationEngine engine_;
+  ShortcutsCard shortcuts_;
   QQuickWindow* window_ = nullptr;
   QVariantAnimation resizing_;
   std::function<void()> closed_;

@@ -85,6 +85,10 @@ void Theme::setFocusShown(bool shown) {
   assign(focusShown_, shown);
 }
 
+void Theme::setTextScale(double scale) {
+  assign(textScale_, scale);
+}
+
 QColor Theme::paper() const {
   return toQt(Palette::paper(appearance_));
 }
@@ -116,6 +120,10 @@ QString Theme::fontFamily() const {
     case FontDesign::rounded: return roundedFamily();
     case FontDesign::standard: break;
   }
+  return systemFamily();
+}
+
+QString Theme::systemFamily() const {
   return QGuiApplication::font().family();
 }
 

@@ -30,7 +30,9 @@ class Theme : public QObject {
   Q_PROPERTY(QColor tertiary READ tertiary NOTIFY changed)
   Q_PROPERTY(QColor placeholder READ placeholder NOTIFY changed)
   Q_PROPERTY(QString fontFamily READ fontFamily NOTIFY changed)
+  Q_PROPERTY(QString systemFamily READ systemFamily CONSTANT)
   Q_PROPERTY(double baseSize READ baseSize NOTIFY changed)
+  Q_PROPERTY(double textScale READ textScale NOTIFY changed)
   Q_PROPERTY(double listInset READ listInset NOTIFY changed)
   Q_PROPERTY(bool reduceMotion READ reduceMotion NOTIFY changed)
   Q_PROPERTY(bool focusShown READ focusShown NOTIFY changed)
@@ -51,6 +53,8 @@ class Theme : public QObject {
   void setHighContrast(bool high);
   void setReduceMotion(bool reduce);
   void setFocusShown(bool shown);
+  /// How much larger than usual the desktop wants text; 1 is the usual.
+  void setTextScale(double scale);
 
   QColor paper() const;
   QColor pencilRed() const;
@@ -61,7 +65,10 @@ class Theme : public QObject {
   QColor tertiary() const;
   QColor placeholder() const;
   QString fontFamily() const;
+  QString systemFamily() const;
   double baseSize() const { return ui_.baseSize(); }
+  /// What font sizes are multiplied by.
+  double textScale() const { return textScale_; }
   double listInset() const { return ui_.listInset(); }
   bool reduceMotion() const { return reduceMotion_; }
   /// Whether controls show that they have the keyboard: from the key that moves it to the next click.
@@ -90,6 +97,7 @@ class Theme : public QObject {
   bool highContrast_ = false;
   bool reduceMotion_ = false;
   bool focusShown_ = false;
+  double textScale_ = 1;
 };
 
 }  // namespace brimle
