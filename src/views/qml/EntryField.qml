@@ -14,7 +14,7 @@ Rectangle {
 
     Symbol {
         x: 10
-        y: 10
+        y: 8 + (placeholder.implicitHeight - height) / 2
         name: "plus"
         size: 11
         color: Theme.secondary
@@ -56,6 +56,10 @@ Rectangle {
             Accessible.name: Texts.of["Add a task"]
 
             Text {
+                id: placeholder
+                width: parent.width
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: 8
                 text: Texts.of["Add a task"]
                 textFormat: Text.PlainText
                 visible: edit.length === 0 && edit.preeditText.length === 0

@@ -39,12 +39,14 @@ Item {
         id: title
         x: header.leading
         y: header.folded ? (34 - height) / 2 : 36
-        width: Math.min(implicitWidth, turn.x - header.gap - x)
+        width: Math.min(implicitWidth, (turn.visible ? turn.x - header.gap : turn.x + turn.width) - x)
         text: header.today.title
         textFormat: Text.PlainText
         wrapMode: header.folded ? Text.NoWrap : Text.Wrap
-        maximumLineCount: header.folded ? 1 : 2
+        maximumLineCount: header.folded ? 1 : 3
         elide: Text.ElideRight
+        fontSizeMode: header.folded ? Text.HorizontalFit : Text.FixedSize
+        minimumPixelSize: 10
         color: Theme.primary
         font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize + 1) * Theme.textScale); weight: Font.DemiBold }
 
@@ -94,6 +96,7 @@ Item {
 
     TextButton {
         id: turn
+        visible: !header.folded || title.implicitWidth + header.gap + implicitWidth <= header.room
         x: header.width - 16 - implicitWidth
         y: title.y + title.baselineOffset - baselineOffset
         text: header.archive.showing ? Texts.of["Today"] : Texts.of["Archive"]

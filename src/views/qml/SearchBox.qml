@@ -40,6 +40,9 @@ Rectangle {
         Accessible.name: Texts.of["Search archive"]
 
         Text {
+            width: parent.width
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 8
             text: Texts.of["Search archive"]
             textFormat: Text.PlainText
             visible: input.length === 0 && input.preeditText.length === 0
