@@ -84,6 +84,7 @@ Item {
             repeats: row.repeats
             link: row.link
             editing: row.editing
+            selected: row.selected
             hovered: hover.hovered
         }
 
