@@ -38,15 +38,15 @@ std::string ArchiveView::title(const TimelineRow& row) const {
 std::vector<MenuItem> ArchiveView::menu(const TimelineRow& row) {
   const Uuid id = row.key;
   if (row.kind == Kind::futureTask) {
-    return {{translated("Add note"), [this, id] { addNote(id); }, {}},
-            {translated("Move to today"), [this, id] { store_.bringForward(id); }, {}},
+    return {{translated("Add note"), [this, id] { addNote(id); }},
+            {translated("Move to today"), [this, id] { store_.bringForward(id); }},
             {},
-            {translated("Delete"), [this, id] { store_.removeScheduled(id); }, {}}};
+            {translated("Delete"), [this, id] { store_.removeScheduled(id); }, {}, true}};
   }
   if (row.kind == Kind::pastTask) {
-    return {{translated("Bring back to today"), [this, id] { commands_.bringBackTargets(id); }, {}},
+    return {{translated("Bring back to today"), [this, id] { commands_.bringBackTargets(id); }},
             {},
-            {translated("Delete"), [this, id] { commands_.deleteTargets(id); }, {}}};
+            {translated("Delete"), [this, id] { commands_.deleteTargets(id); }, {}, true}};
   }
   return {};
 }

@@ -8,11 +8,14 @@
 namespace brimle {
 
 struct MenuItem {
-  std::string title;  ///< in the interface language; empty for a separator
-  std::function<void()> action;
-  std::optional<bool> chosen;  ///< set for one of a choice: whether it is the one in force
+  std::string title;             ///< in the interface language; empty for a separator
+  std::function<void()> action;  ///< none for the heading of the items below it
+  std::optional<bool> chosen{};  ///< set for one of a choice: whether it is the one in force
+  bool destructive = false;      ///< drawn as a warning
+  bool enabled = true;
 
   bool isSeparator() const { return title.empty(); }
+  bool isHeading() const { return !isSeparator() && !action; }
 };
 
 }  // namespace brimle

@@ -17,6 +17,8 @@ Item {
         model: page.archive.rows
         boundsBehavior: Flickable.StopAtBounds
         cacheBuffer: 200
+        keyNavigationEnabled: false
+        activeFocusOnTab: true
 
         // A timeline shorter than the window is padded, so that the boundary can stand at the top.
         footer: Item { height: Math.max(0, list.height - 60) }
@@ -45,6 +47,10 @@ Item {
             Qt.callLater(list.showBoundary) // qmllint disable
         }
     }
+    FocusRing {
+        target: list
+        reach: 2
+    }
     ScrollMark { flickable: list }
 
     SearchBox {
@@ -56,6 +62,12 @@ Item {
     Connections {
         target: page.archive
         function onReleaseKeyboard() { list.forceActiveFocus() }
+        function onRowShown(row) { list.positionViewAtIndex(row, ListView.Contain) }
+        function onMenuAsked(row) {
+            list.positionViewAtIndex(row, ListView.Contain)
+            const item = list.itemAtIndex(row) as TimelineRow
+            if (item) page.archive.openMenu(item.key, item.mapToGlobal(21, item.height))
+        }
     }
     Component.onCompleted: list.forceActiveFocus()
 }

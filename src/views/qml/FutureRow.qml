@@ -20,10 +20,17 @@ Item {
     Accessible.role: Accessible.ListItem
     Accessible.name: text
 
+    activeFocusOnTab: true
+    onActiveFocusChanged: archive.setFocusedKey(activeFocus ? key : "")
+    Keys.onReturnPressed: archive.beginEdit(key)
+    Keys.onDeletePressed: archive.remove(key)
+
+    FocusRing { target: row }
+
     MouseArea {
         anchors.fill: parent
         acceptedButtons: Qt.RightButton
-        onClicked: row.archive.openMenu(row.key)
+        onClicked: (mouse) => row.archive.openMenu(row.key, mapToGlobal(mouse.x, mouse.y))
     }
 
     Column {

@@ -23,7 +23,7 @@ MouseArea {
     function action(): int { return today.draggingId !== "" ? Qt.MoveAction : Qt.CopyAction }
 
     onClicked: (mouse) => {
-        if (mouse.button === Qt.RightButton) today.openMenu(taskId)
+        if (mouse.button === Qt.RightButton) today.openMenu(taskId, mapToGlobal(mouse.x, mouse.y))
         else today.select(taskId, mouse.modifiers)
     }
     onDoubleClicked: (mouse) => { if (mouse.button === Qt.LeftButton) today.beginEdit(taskId) }

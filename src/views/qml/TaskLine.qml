@@ -44,9 +44,8 @@ Item {
             text: line.taskText
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
-            horizontalAlignment: Text.AlignLeft
             color: line.done ? Theme.secondary : Theme.primary
-            font { family: Theme.fontFamily; pixelSize: Theme.baseSize; strikeout: line.done }
+            font { family: Theme.fontFamily; pixelSize: Math.round(Theme.baseSize * Theme.textScale); strikeout: line.done }
             HoverHandler { cursorShape: Qt.IBeamCursor }
         }
 
@@ -57,7 +56,7 @@ Item {
             sourceComponent: InlineEditor {
                 initialText: line.taskText
                 hint: line.today.dateHint(text)
-                font { family: Theme.fontFamily; pixelSize: Theme.baseSize }
+                font { family: Theme.fontFamily; pixelSize: Math.round(Theme.baseSize * Theme.textScale) }
                 color: Theme.primary
                 onEdited: (typed) => line.today.setText(line.taskId, typed)
                 onDone: line.today.endEdit(line.taskId)

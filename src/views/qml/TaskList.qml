@@ -15,10 +15,23 @@ ListView {
     model: today.tasks
     boundsBehavior: Flickable.StopAtBounds
     reuseItems: false
+    keyNavigationEnabled: false
+    activeFocusOnTab: true
     cacheBuffer: 400
 
     Accessible.role: Accessible.List
     Accessible.name: Texts.of["Task list"]
+
+    Connections {
+        target: list.today
+        function onRowShown(row) { list.positionViewAtIndex(row, ListView.Contain) }
+        function onMenuAsked(row) {
+            list.positionViewAtIndex(row, ListView.Contain)
+            const item = list.itemAtIndex(row) as TaskRow
+            if (item) list.today.openMenu(item.taskId, item.mapToGlobal(33, item.height))
+        }
+        function onReleaseKeyboard() { list.forceActiveFocus() }
+    }
 
     delegate: TaskRow {
         width: ListView.view.width

@@ -43,7 +43,7 @@ Item {
                 color: Theme.secondary
                 font {
                     family: Theme.fontFamily
-                    pixelSize: row.kind === "nothing" ? Theme.baseSize - 1 : Theme.baseSize - 2
+                    pixelSize: Math.round((Theme.baseSize - (row.kind === "nothing" ? 1 : 2)) * Theme.textScale)
                     weight: row.kind === "nothing" ? Font.Normal : Font.DemiBold
                 }
                 Accessible.role: row.kind === "nothing" ? Accessible.StaticText : Accessible.Heading

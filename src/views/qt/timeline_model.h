@@ -40,6 +40,8 @@ class TimelineModel : public QAbstractListModel {
   void touch();
 
   const TimelineRow* find(const Uuid& key) const;
+  /// Where the row with this key stands, or -1.
+  int rowOf(const Uuid& key) const;
   int boundary() const { return static_cast<int>(boundaryRow(rows_)); }
 
  private:
