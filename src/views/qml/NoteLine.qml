@@ -29,11 +29,6 @@ Item {
         font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
         Accessible.role: Accessible.StaticText
         Accessible.name: Texts.of["Note"] + ": " + text
-
-        TapHandler {
-            gesturePolicy: TapHandler.ReleaseWithinBounds
-            onDoubleTapped: note.today.beginNoteEdit(note.taskId, note.index)
-        }
     }
 
     Loader {

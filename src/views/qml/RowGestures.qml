@@ -1,5 +1,5 @@
-// The gestures on a row: click selects, double click edits, right click opens the menu, a drag moves the row along
-// with the pointer and offers its text to other programs.
+// The gestures on a row: click selects, double click edits the text or the note under the pointer, right click opens the
+// menu, a drag moves the row along with the pointer and offers its text to other programs.
 import QtQuick
 import Brimle
 
@@ -9,6 +9,8 @@ MouseArea {
     required property Today today
     required property string taskId
     required property string text
+    /// Gives the index of the note at a place of the row, below 0 where there is none.
+    required property var noteAt
 
     acceptedButtons: Qt.LeftButton | Qt.RightButton
     preventStealing: true
@@ -26,7 +28,12 @@ MouseArea {
         if (mouse.button === Qt.RightButton) today.openMenu(taskId, mapToGlobal(mouse.x, mouse.y))
         else today.select(taskId, mouse.modifiers)
     }
-    onDoubleClicked: (mouse) => { if (mouse.button === Qt.LeftButton) today.beginEdit(taskId) }
+    onDoubleClicked: (mouse) => {
+        if (mouse.button !== Qt.LeftButton) return
+        const note = noteAt(mouse.x, mouse.y)
+        if (note < 0) today.beginEdit(taskId)
+        else today.beginNoteEdit(taskId, note)
+    }
 
     Item {
         id: ghost
