@@ -53,19 +53,24 @@ void RowView::setText(const Uuid& id, std::string_view text) {
 }
 
 void RowView::endEdit(const Uuid& id) {
-  if (sel_.editingID() == id) sel_.setEditingID(std::nullopt);
   store_.perform([&] {
-    write(id, [](TodoItem& task) { task.text = std::string(trimmedLines(task.text)); });
-    const TodoItem* task = store_.find(id);
-    if (!task) return;
-    const std::string text = task->text;
-    if (const auto dated = extractDateToken(text, store_.entryContext())) {
-      write(id, [&](TodoItem& sent) { sent.text = std::string(dated->text); });
-      commands_.sendToDay(id, dayKey(dated->day));
-    } else if (text.empty()) {
-      commands_.deleteTargets(id);
-    }
+    settleText(id);
+    // Not before: an edit that ends takes the task out of the selection that a cleared text deletes.
+    if (sel_.editingID() == id) sel_.setEditingID(std::nullopt);
   });
+}
+
+void RowView::settleText(const Uuid& id) {
+  write(id, [](TodoItem& task) { task.text = std::string(trimmedLines(task.text)); });
+  const TodoItem* task = store_.find(id);
+  if (!task) return;
+  const std::string text = task->text;
+  if (const auto dated = extractDateToken(text, store_.entryContext())) {
+    write(id, [&](TodoItem& sent) { sent.text = std::string(dated->text); });
+    commands_.sendToDay(id, dayKey(dated->day));
+  } else if (text.empty()) {
+    commands_.deleteTargets(id);
+  }
 }
 
 void RowView::textFocusLost(const Uuid& id) {

@@ -18,7 +18,8 @@ TEST_F(RowViewTest, EditsATextInPlace) {
 }
 
 TEST_F(RowViewTest, DeletesATaskWhoseTextIsClearedWithTheSelectionItIsIn) {
-  expect("A B C", {"click:B edit:A write:A= blur:A -> B @B >B => B C",
+  expect("A B C", {"click:A click:cmd+B edit:A write:A=\t\u00A0 end:A -> @B >B => C",
+                   "click:B edit:A write:A= blur:A -> B @B >B => B C",
                    "click:A edit:A write:A= end:A -> @A >A => B C"});
 }
 
