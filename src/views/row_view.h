@@ -65,7 +65,8 @@ class RowView {
   SelectionModel& sel_;
   Time& time_;
   RowCommands commands_{store_, sel_};
-  std::shared_ptr<int> alive_ = std::make_shared<int>();
+  /// Shared with the calls that will close a note; one that is opened meanwhile takes their place.
+  std::shared_ptr<int> closing_ = std::make_shared<int>();
 };
 
 }  // namespace brimle

@@ -66,6 +66,7 @@ TEST_F(RowViewTest, ClosesANoteThatLosesTheKeyboardUnlessItHops) {
   expect("A/m/n B/o",
          {"edit:A.0 write:A.0=\tx blur:A.0 -> note:A.0 => A/\tx/n B/o; wait:0 -> => A/x/n B/o",
           "edit:A.0 write:A.0=\tx blur:A.0 edit:A.1 wait:0 -> note:A.1 => A/x/n B/o",
+          "edit:A.0 write:A.0= blur:A.0 edit:A.1 wait:0 -> note:A.0 => A/n B/o",
           "edit:A.1 blur:A.0 blur:B.1 wait:0 -> note:A.1", "edit:A.0 blur:A.0 gone wait:0 -> note:A.0",
           "edit:A.1 up blur:A.0 wait:0 -> note:A.0 hop; wait:0.15 blur:A.0 wait:0 ->"});
   expect("A", {"click:A edit:A write:A=x tab blur:A write:A.0=n -> @A >A note:A.0 hop => x'/n; down blur:A.0 "
