@@ -40,6 +40,7 @@ TEST_F(ArchiveViewTest, IsATimelineOfWhatIsToComeAndWhatHasBeen) {
   const std::tuple<const char*, const char*, const char*> rows[] = {
       {"A", "", "| - "},
       {"||20:Q 20:P 2027-06-20:R", "", "#20 Q P #2027-06-20 R | - "},
+      {"||25:R 20:P 25:S", "", "#20 P #25 R S | - "},  // a file in another order
       {"|||14:A,B+ 13: 12:C", " \t", "| @14 A B @12 C "},
       {"||20:milk|14:milk,B/x/MILKY 13:C 12:Cumilk", "Milk \t", "#20 milk | @14 milk B @12 Cumilk "},
       {"||20:P|14:A 13:B", "z", "#20 P | - "},
