@@ -91,8 +91,11 @@ TEST_F(ArchiveViewTest, EditsAScheduledTaskInADraft) {
           "open:P draft:=x open:Z -> => | | 20:x'/m/n 22:Q",
           "open:P unschedule:P draft:=x commit -> => | | 22:Q",
           "open:P.1 draft:=\tx commit -> => | | 20:P/m/x 22:Q",
-          "open:P.0 draft:=\t commit -> => | | 20:P/n 22:Q", "open:P.0 draft:=x cancel ->", "open:P.2 ->",
-          "open:P.0 open:Z.0 ->", "open:P.0 draft:=x open:Q -> Q:Q => | | 20:P/x/n 22:Q",
+          "open:P.0 draft:=\t commit -> => | | 20:P/n 22:Q",
+          "open:P.0 draft:=\t open:P.1 -> P.0:n => | | 20:P/n 22:Q",
+          "open:P.1 draft:= open:P.0 -> P.0:m => | | 20:P/m 22:Q",
+          "open:P.0 draft:=x open:P.1 -> P.1:n => | | 20:P/x/n 22:Q", "open:P.0 draft:=x cancel ->",
+          "open:P.2 ->", "open:P.0 open:Z.0 ->", "open:P.0 draft:=x open:Q -> Q:Q => | | 20:P/x/n 22:Q",
           "cancel next back ->"});
 }
 
