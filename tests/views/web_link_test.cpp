@@ -15,6 +15,9 @@ TEST(WebLink, IsTheFirstAddressWithoutWhatStandsAroundIt) {
       {"|https://a.org:8080/~b/c.d-e_f;g|.", "|https://a.org/|?!.,;:'", "<|https://a.org|>",
        "\"|https://a.org|\"b", "read (|https://a.org/a_(b)|).", "[|https://a.org|]: {https://b.org}",
        "{|https://a.org/[b]|}", "|https://a.org/b(", "([|https://a.org|.)].", "|https://a.org/(b|]"},
+      {"見て|https://a.org/日本|。", "（|https://a.org/|）、次", "“|https://a.org|”…",
+       "«|https://a.org|\u00A0»", "|https://a.org|　次", "|https://a.org|\u2028b", "|https://a.org|\xFF",
+       "https://。 |https://b.org"},
       {"", "milk", "a.org", "ftp://a.org", "mailto:a@b.org", "https:/a.org", "https//a.org", "https://",
        "https:// a.org", "http://.", "www.", "www. a", "www..a", "awww.a.org", "1http://a.org", "wwwa.org"}};
   for (std::string text : rows | std::views::join) {
