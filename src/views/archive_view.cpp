@@ -70,6 +70,9 @@ void ArchiveView::beginEdit(const Uuid& id) {
 }
 
 void ArchiveView::beginNoteEdit(const Uuid& id, std::size_t index) {
+  // A blank note goes when its editor closes, and the notes after it move up.
+  const bool oneGoes = editor_ && editor_->id == id && editor_->note && trimmed(editor_->draft).empty();
+  if (oneGoes && *editor_->note < index) --index;
   commit();
   const ScheduledItem* entry = find(id);
   if (!entry || index >= entry->item.notes.size() || !isShownWhole(entry->item.notes[index])) return;

@@ -53,19 +53,24 @@ void RowView::setText(const Uuid& id, std::string_view text) {
 }
 
 void RowView::endEdit(const Uuid& id) {
-  if (sel_.editingID() == id) sel_.setEditingID(std::nullopt);
   store_.perform([&] {
-    write(id, [](TodoItem& task) { task.text = std::string(trimmedLines(task.text)); });
-    const TodoItem* task = store_.find(id);
-    if (!task) return;
-    const std::string text = task->text;
-    if (const auto dated = extractDateToken(text, store_.entryContext())) {
-      write(id, [&](TodoItem& sent) { sent.text = std::string(dated->text); });
-      commands_.sendToDay(id, dayKey(dated->day));
-    } else if (text.empty()) {
-      commands_.deleteTargets(id);
-    }
+    settleText(id);
+    // Not before: an edit that ends takes the task out of the selection that a cleared text deletes.
+    if (sel_.editingID() == id) sel_.setEditingID(std::nullopt);
   });
+}
+
+void RowView::settleText(const Uuid& id) {
+  write(id, [](TodoItem& task) { task.text = std::string(trimmedLines(task.text)); });
+  const TodoItem* task = store_.find(id);
+  if (!task) return;
+  const std::string text = task->text;
+  if (const auto dated = extractDateToken(text, store_.entryContext())) {
+    write(id, [&](TodoItem& sent) { sent.text = std::string(dated->text); });
+    commands_.sendToDay(id, dayKey(dated->day));
+  } else if (text.empty()) {
+    commands_.deleteTargets(id);
+  }
 }
 
 void RowView::textFocusLost(const Uuid& id) {
@@ -73,6 +78,7 @@ void RowView::textFocusLost(const Uuid& id) {
 }
 
 void RowView::beginNoteEdit(const Uuid& id, std::int64_t index) {
+  closing_ = std::make_shared<int>();
   if (const auto open = sel_.noteEditingID()) {
     const std::int64_t openIndex = sel_.noteEditingIndex();
     if (cleanupNote(store_, *open, openIndex) && open == id && openIndex < index) --index;
@@ -102,8 +108,8 @@ void RowView::noteFocusLost(const Uuid& id, std::int64_t index) {
   };
   if (!isOpen() || sel_.hopping()) return;
   // On the next turn, since the keyboard may be on its way to another note of the same row.
-  time_.after(Seconds(0), [this, alive = std::weak_ptr(alive_), isOpen, id, index] {
-    if (!alive.expired() && isOpen()) endNoteEdit(id, index);
+  time_.after(Seconds(0), [this, due = std::weak_ptr(closing_), isOpen, id, index] {
+    if (!due.expired() && isOpen()) endNoteEdit(id, index);
   });
 }
 

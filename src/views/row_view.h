@@ -31,7 +31,7 @@ class RowView {
   void beginEdit(const Uuid& id);
   void setText(const Uuid& id, std::string_view text);
   /// Closes the editor: the text is trimmed; one that ends in a date sends the task there, pinned; an empty
-  /// one deletes it.
+  /// one deletes it, with the selection it is in.
   void endEdit(const Uuid& id);
   /// The editor lost the keyboard.
   void textFocusLost(const Uuid& id);
@@ -58,12 +58,15 @@ class RowView {
   /// Writes a changed copy of the task through the store; nothing where it is gone.
   template <class Change>
   void write(const Uuid& id, Change change);
+  /// What a text that was typed becomes: trimmed, sent to its day, or deleted.
+  void settleText(const Uuid& id);
 
   Store& store_;
   SelectionModel& sel_;
   Time& time_;
   RowCommands commands_{store_, sel_};
-  std::shared_ptr<int> alive_ = std::make_shared<int>();
+  /// Shared with the calls that will close a note; one that is opened meanwhile takes their place.
+  std::shared_ptr<int> closing_ = std::make_shared<int>();
 };
 
 }  // namespace brimle
