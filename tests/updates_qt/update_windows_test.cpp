@@ -99,10 +99,14 @@ TEST_F(UpdateWindow, ClosesByItsOtherButtonAndByEscape) {
   EXPECT_EQ(window(), nullptr);
 }
 
-TEST_F(UpdateWindow, TakesReturnAsItsFirstButton) {
+TEST_F(UpdateWindow, TakesReturnAndSpaceAsItsFirstButton) {
   windows.show(kNew);
-  QTest::keyClick(window(), Qt::Key_Return);
+  ASSERT_NE(window()->focusWidget(), nullptr);
+  QTest::keyClick(window()->focusWidget(), Qt::Key_Return);
   EXPECT_EQ(browser.opened.size(), 1);
+  windows.show(kNew);
+  QTest::keyClick(window()->focusWidget(), Qt::Key_Space);
+  EXPECT_EQ(browser.opened.size(), 2);
 }
 
 TEST_F(UpdateWindow, ComesBackWhenMinimised) {

@@ -32,8 +32,9 @@ QLabel* makeTitle(const std::string& text) {
   return title;
 }
 
-QPlainTextEdit* makeNotes(const std::string& text) {
-  auto* notes = new QPlainTextEdit(QString::fromStdString(text));
+QPlainTextEdit* makeNotes(const UpdateMessage& message) {
+  auto* notes = new QPlainTextEdit(QString::fromStdString(message.notes));
+  notes->setAccessibleName(QString::fromStdString(message.title));
   notes->setReadOnly(true);
   notes->setTabChangesFocus(true);
   notes->setFixedHeight(kNotesHeight);
@@ -51,11 +52,14 @@ void press(QDialog& dialog, const std::string& address) {
 }
 
 QDialogButtonBox* makeButtons(QDialog& dialog, const std::vector<UpdateMessage::Button>& buttons) {
-  auto* box = new QDialogButtonBox;
+  auto* box = new QDialogButtonBox(&dialog);
   for (const auto& [text, address] : buttons) {
     const auto role = address.empty() ? QDialogButtonBox::RejectRole : QDialogButtonBox::AcceptRole;
     QPushButton* button = box->addButton(QString::fromStdString(text), role);
-    button->setDefault(&text == &buttons.front().text);
+    if (&text == &buttons.front().text) {
+      button->setDefault(true);
+      button->setFocus();  // not the notes, which come first
+    }
     QObject::connect(button, &QPushButton::clicked, &dialog,
                      [&dialog, address = address] { press(dialog, address); });
   }
@@ -69,7 +73,8 @@ std::unique_ptr<QDialog> makeDialog(const UpdateMessage& message) {
   auto* layout = new QVBoxLayout(dialog.get());
   layout->addWidget(makeTitle(message.title));
   layout->addWidget(makeLabel(message.text));
-  if (!message.notes.empty()) layout->addWidget(makeNotes(message.notes));
+  if (!message.notes.empty()) layout->addWidget(makeNotes(message));
+  layout->addStretch();
   layout->addWidget(makeButtons(*dialog, message.buttons));
   return dialog;
 }
