@@ -83,6 +83,7 @@ class ViewTest : public ControlTest {
           {"unschedule", [&] { store->removeScheduled(entry); }},
           {"typing", [&] { reactions->addFocused(); }},
           {"wanted", [&] { todayFocusAdd.notify(); }},
+          {"future", [&] { ui.setArchiveViewingFuture(true); }},
           {"compact", [&] { ui.setCompact(!ui.compact()); }},
           {"drag", [&] { drag->begin(id); }},
           {"over", [&] { drag->enter(id); }},
