@@ -84,21 +84,23 @@ TEST_F(RowViewTest, OffersInItsMenuWhatItsTaskIsNot) {
   const auto menu = [&](std::string_view task) {
     begin(task);
     std::string text;
-    for (const auto& [title, action, chosen] : row->menu(idOf("A"))) {
-      EXPECT_EQ(action == nullptr, title.empty());
-      text += (chosen ? *chosen ? "+" : "-" : "") + title + ",";
+    for (const MenuItem& item : row->menu(idOf("A"))) {
+      EXPECT_TRUE(item.enabled);
+      text += (item.chosen ? *item.chosen ? "+" : "-" : "") + item.title;
+      text += item.isHeading() ? ":," : item.destructive ? "?," : ",";
     }
     return text;
   };
-  EXPECT_EQ(
-      menu("A%"),
-      "Tick,Add note,Highlight,Pin to top,Move to tomorrow,,+No repeat,-Every day,-Weekdays only,,Delete,");
+  EXPECT_EQ(menu("A%"),
+            "Tick,Add note,Highlight,Pin to top,Move to tomorrow,,Repeat:,+No repeat,-Every day,-Weekdays "
+            "only,,Delete?,");
   EXPECT_EQ(menu("A+!^*%"),
-            "Untick,Add note,Remove highlight,Unpin,Move to tomorrow,,-No repeat,-Every day,+Weekdays "
-            "only,,Delete,");
+            "Untick,Add note,Remove highlight,Unpin,Move to tomorrow,,Repeat:,-No repeat,-Every day,"
+            "+Weekdays only,,Delete?,");
   I18n::setLang("fr");
   for (const auto& title : split(menu("A*"), ',')) {
-    const std::string key = title.substr(title.find_first_not_of("+-"));
+    const std::string key = title.substr(title.find_first_not_of("+-"),
+                                         title.find_last_not_of(":?") + 1 - title.find_first_not_of("+-"));
     EXPECT_NE(std::ranges::find(I18n::table("fr"), key, &I18n::Translation::text), I18n::table("fr").end())
         << key;
     EXPECT_EQ(title.starts_with('+'), key == I18n::t("Every day"));

@@ -12,7 +12,7 @@ std::vector<std::string> texts(const Region& region, std::string& date) {
   std::vector<std::string> texts;
   for (const auto& [title, rows] : shortcutsCard(region)) {
     texts.push_back(title);
-    for (const auto& [keys, description] : rows) {
+    for (const auto& [keys, description, hint] : rows) {
       texts.push_back(description);
       (keys.starts_with("> ") ? date : texts.emplace_back()) = keys;
     }
