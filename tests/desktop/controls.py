@@ -54,9 +54,9 @@ class Control:
         return self.has(pyatspi.STATE_FOCUSED)
 
     def all(self, role, named=None):
-        """Every control in it with the role that is on the screen; with the name, or one that `named(name)` takes."""
+        """Every control in it with the role, of those on the screen; with the name, or one that `named(name)` takes."""
         accepts = named if callable(named) else lambda name: named in (None, name)
-        return [control for control in self._below() if control._is(role) and accepts(control.name)]
+        return [control for control in self._withRole(ROLES[role]) if accepts(control.name)]
 
     def find(self, role, named=None):
         """The one such control in it, as soon as there is exactly one."""
@@ -65,19 +65,22 @@ class Control:
             return found[0] if len(found) == 1 else None
         return waitUntil(one, lambda: f"there is one {role} named {named!r}; there are\n{self._tree()}")
 
-    def _is(self, role):
-        return self._element.getRole() == ROLES[role] and self.has(pyatspi.STATE_SHOWING)
-
-    def _below(self):
+    def _children(self):
         for child in self._element:
-            if child is not None:
-                control = Control(child)
-                yield control
-                yield from control._below()
+            if child is not None and child.getState().contains(pyatspi.STATE_SHOWING):
+                yield Control(child)
 
-    def _tree(self):
-        shown = (control for control in self._below() if control.has(pyatspi.STATE_SHOWING))
-        return "\n".join(f"  {control._element.getRoleName()} {control.name!r}" for control in shown)
+    def _withRole(self, role):
+        """A control in a control of the same role is not looked for."""
+        for child in self._children():
+            if child._element.getRole() == role:
+                yield child
+            else:
+                yield from child._withRole(role)
+
+    def _tree(self, indent="  "):
+        return "".join(f"{indent}{child._element.getRoleName()} {child.name!r}\n{child._tree(indent + '  ')}"
+                       for child in self._children())
 
 
 def applicationOf(process):

@@ -84,10 +84,9 @@ TEST_F(RowViewTest, OffersInItsMenuWhatItsTaskIsNot) {
   const auto menu = [&](std::string_view task) {
     begin(task);
     std::string text;
-    for (const MenuItem& item : row->menu(idOf("A"))) {
-      EXPECT_TRUE(item.enabled);
-      text += (item.chosen ? *item.chosen ? "+" : "-" : "") + item.title;
-      text += item.isHeading() ? ":," : item.destructive ? "?," : ",";
+    for (const MenuEntry& item : row->menu(idOf("A"))) {
+      text += (item.on ? *item.on ? "+" : "-" : "") + item.title;
+      text += item.isSeparator() || item.action ? item.destructive ? "?," : "," : ":,";
     }
     return text;
   };
