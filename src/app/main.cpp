@@ -5,7 +5,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <utility>
 
+#include "app/core/window_rules.h"
 #include "i18n/i18n.h"
 #include "i18n/region.h"
 #include "model/data_folder.h"
@@ -53,12 +55,9 @@ int handOver() {
   return 1;
 }
 
-/// The appearance that is forced by the setting; else the desktop's preference, or where it tells none, the
-/// one its own colours suggest.
-Appearance appearanceOf(const std::optional<std::string>& setting, std::optional<bool> desktopIsDark) {
-  if (setting == "light") return Appearance::light;
-  if (setting == "dark") return Appearance::dark;
-  const bool dark = desktopIsDark.value_or(QApplication::palette().window().color().lightness() < 128);
+/// The appearance that is forced by the setting, else the desktop's.
+Appearance appearanceOf(const std::optional<std::string>& setting, bool desktopIsDark) {
+  const bool dark = setting == "dark" || (setting != "light" && desktopIsDark);
   return dark ? Appearance::dark : Appearance::light;
 }
 
@@ -82,6 +81,8 @@ int run(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setDesktopFileName(QStringLiteral("org.brimle.Brimle"));
   QApplication::setQuitOnLastWindowClosed(false);
+  // For a desktop that tells no preference: what its own colours suggest, before ours replace them.
+  const bool desktopLooksDark = QApplication::palette().window().color().lightness() < 128;
 
   QtTime time;
   QtSettingsPortal settings;
@@ -108,10 +109,23 @@ int run(int argc, char** argv) {
     mainWindow.bringForward(token);
   };
 
+  double expandedHeight = kRegularSize.height;
+  bool isCompactNow = false;
+  const Subscription folding = ui.observe([&] {
+    if (std::exchange(isCompactNow, ui.compact()) == ui.compact()) return;
+    const Rect frame = mainWindow.frame();
+    if (isCompactNow) expandedHeight = frame.height;
+    mainWindow.setFrame(constrainToScreen(isCompactNow ? folded(frame) : unfolded(frame, expandedHeight),
+                                          mainWindow.visibleScreen()),
+                        true);
+  });
+
   const auto applyAppearance = [&] {
-    mainWindow.theme().setAppearance(appearanceOf(preferences.string("appearance"), settings.dark()));
+    mainWindow.theme().setAppearance(
+        appearanceOf(preferences.string("appearance"), settings.dark().value_or(desktopLooksDark)));
     mainWindow.theme().setHighContrast(settings.highContrast());
     mainWindow.theme().setReduceMotion(settings.reduceMotion());
+    mainWindow.theme().setTextScale(settings.textScale());
   };
   const Subscription following = settings.observe(applyAppearance);
   applyAppearance();

@@ -31,6 +31,11 @@ std::optional<Uuid> neighbour(const RowSelection& rows, const RowOrder& order, i
 
 }  // namespace
 
+std::optional<Uuid> selectedLead(const RowSelection& rows) {
+  if (rows.ids.empty()) return std::nullopt;
+  return rows.lead && rows.ids.contains(*rows.lead) ? *rows.lead : *rows.ids.begin();
+}
+
 RowSelection onlyRow(const Uuid& id) {
   return {{id}, id, id};
 }

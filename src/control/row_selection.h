@@ -26,6 +26,10 @@ struct RowSelection {
 
 RowSelection onlyRow(const Uuid& id);
 
+/// The selected row at which the user stands: the lead while it is selected, else any; none without a
+/// selection.
+std::optional<Uuid> selectedLead(const RowSelection& rows);
+
 /// What a click on a row makes of a selection: with Command held the row is toggled, with Shift the range
 /// from the anchor is selected where both ends are visible, else the row alone. Command comes before Shift.
 RowSelection clickedRow(RowSelection rows, const Uuid& id, const RowOrder& order, Modifiers modifiers);

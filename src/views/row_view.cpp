@@ -133,25 +133,28 @@ void RowView::addNote(const Uuid& id) {
   beginNoteEdit(id, index);
 }
 
-std::vector<MenuItem> RowView::menu(const Uuid& id) {
+std::vector<MenuEntry> RowView::menu(const Uuid& id) {
   const TodoItem* task = store_.find(id);
   if (!task) return {};
-  std::vector<MenuItem> items = {
-      {translated(task->done ? "Untick" : "Tick"), [this, id] { commands_.toggleTargets(id); }, {}},
-      {translated("Add note"), [this, id] { addNote(id); }, {}},
+  std::vector<MenuEntry> items = {
+      {translated(task->done ? "Untick" : "Tick"), [this, id] { commands_.toggleTargets(id); }},
+      {translated("Add note"), [this, id] { addNote(id); }},
       {translated(task->highlighted ? "Remove highlight" : "Highlight"),
-       [this, id] { commands_.highlightTargets(id); },
-       {}},
-      {translated(task->pinnedTop ? "Unpin" : "Pin to top"), [this, id] { togglePin(id); }, {}},
-      {translated("Move to tomorrow"), [this, id] { commands_.moveTargetsToTomorrow(id); }, {}},
+       [this, id] { commands_.highlightTargets(id); }},
+      {translated(task->pinnedTop ? "Unpin" : "Pin to top"), [this, id] { togglePin(id); }},
+      {translated("Move to tomorrow"), [this, id] { commands_.moveTargetsToTomorrow(id); }},
       {},
+      {translated("Repeat"), {}},
   };
   for (const auto& [choice, title] : kRepeatTitles) {
-    items.push_back({translated(title), [this, id, choice = choice] { setRepeatChoice(id, choice); },
-                     repeatChoiceOf(*task) == choice});
+    items.push_back({.title = translated(title),
+                     .action = [this, id, choice = choice] { setRepeatChoice(id, choice); },
+                     .on = repeatChoiceOf(*task) == choice});
   }
   items.push_back({});
-  items.push_back({translated("Delete"), [this, id] { commands_.deleteTargets(id); }, {}});
+  items.push_back({.title = translated("Delete"),
+                   .action = [this, id] { commands_.deleteTargets(id); },
+                   .destructive = true});
   return items;
 }
 

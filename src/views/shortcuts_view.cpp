@@ -56,7 +56,7 @@ std::vector<ShortcutsSection> shortcutsCard(const Region& region) {
     auto& shown = card.emplace_back();
     shown.title = I18n::t(section.title);
     for (const RowText& row : section.rows) {
-      shown.rows.push_back({keysOf(row, region), std::string(I18n::t(row.description))});
+      shown.rows.push_back({keysOf(row, region), std::string(I18n::t(row.description)), {}});
     }
   }
   return card;

@@ -13,6 +13,7 @@ struct ShortcutsSection {
   struct Row {
     std::string keys;
     std::string description;
+    std::string hint;  ///< the key in force here, where it may be another; else empty
   };
 
   std::string title;

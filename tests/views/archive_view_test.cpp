@@ -109,7 +109,7 @@ TEST_F(ArchiveViewTest, DoesWhatItsMenusSay) {
   begin("||20:P|14:A");
   std::string titles;
   for (const TimelineRow& one : archive->rows()) {
-    for (const MenuItem& item : archive->menu(one)) titles += item.title + ",";
+    for (const MenuEntry& item : archive->menu(one)) titles += item.title + ",";
   }
   EXPECT_EQ(titles, "Add note,Move to today,,Delete,Bring back to today,,Delete,");
 }

@@ -81,23 +81,22 @@ TEST_F(RowViewTest, OffersInItsMenuWhatItsTaskIsNot) {
   const auto menu = [&](std::string_view task) {
     begin(task);
     std::string text;
-    for (const auto& [title, action, chosen] : row->menu(idOf("A"))) {
-      EXPECT_EQ(action == nullptr, title.empty());
-      text += (chosen ? *chosen ? "+" : "-" : "") + title + ",";
+    for (const MenuEntry& item : row->menu(idOf("A"))) {
+      text += (item.on ? *item.on ? "+" : "-" : "") + item.title;
+      text += item.isSeparator() || item.action ? item.destructive ? "?," : "," : ":,";
     }
     return text;
   };
-  EXPECT_EQ(
-      menu("A%"),
-      "Tick,Add note,Highlight,Pin to top,Move to tomorrow,,+No repeat,-Every day,-Weekdays only,,Delete,");
+  EXPECT_EQ(menu("A%"),
+            "Tick,Add note,Highlight,Pin to top,Move to tomorrow,,Repeat:,+No repeat,-Every day,-Weekdays "
+            "only,,Delete?,");
   EXPECT_EQ(menu("A+!^*%"),
-            "Untick,Add note,Remove highlight,Unpin,Move to tomorrow,,-No repeat,-Every day,"
-            "+Weekdays only,,Delete,");
+            "Untick,Add note,Remove highlight,Unpin,Move to tomorrow,,Repeat:,-No repeat,-Every day,"
+            "+Weekdays only,,Delete?,");
   I18n::setLang("fr");
-  EXPECT_EQ(
-      menu("A*"),
-      "Cocher,Ajouter une note,Surligner,Épingler en haut,Reporter à demain,,-Ne pas répéter,+Tous les jours,"
-      "-En semaine uniquement,,Supprimer,");
+  EXPECT_EQ(menu("A*"),
+            "Cocher,Ajouter une note,Surligner,Épingler en haut,Reporter à demain,,Répéter:,-Ne pas répéter,"
+            "+Tous les jours,-En semaine uniquement,,Supprimer?,");
   EXPECT_EQ(row->menu(idOf("Z")).size(), 0u);
 }
 

@@ -20,7 +20,7 @@ TEST(ShortcutsCard, SpeaksEveryLanguageAndKeepsItsKeysButSpaceAndTheDate) {
       EXPECT_EQ(card[section].title, I18n::t(english[section].title));
       ASSERT_EQ(card[section].rows.size(), (std::array{4u, 7u, 8u}[section]));
       for (std::size_t row = 0; row < card[section].rows.size(); ++row) {
-        const auto& [keys, description] = english[section].rows[row];
+        const auto& [keys, description, hint] = english[section].rows[row];
         EXPECT_EQ(card[section].rows[row].description, I18n::t(description));
         const bool isTranslated = language == std::string("en") || I18n::t(description) != description;
         EXPECT_TRUE(isTranslated) << description << " in " << language;

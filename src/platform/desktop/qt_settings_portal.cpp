@@ -6,6 +6,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
+#include <algorithm>
 
 using Groups = QMap<QString, QVariantMap>;
 Q_DECLARE_METATYPE(Groups)
@@ -86,6 +87,11 @@ bool QtSettingsPortal::reduceMotion() const {
   if (gnome.isValid()) return !gnome.toBool();
   const QVariant kde = value(kKde, "AnimationDurationFactor");
   return kde.isValid() && kde.toDouble() == 0;
+}
+
+double QtSettingsPortal::textScale() const {
+  const double scale = value(kGnome, "text-scaling-factor").toDouble();
+  return scale > 0 ? std::clamp(scale, 0.5, 3.0) : 1;
 }
 
 }  // namespace brimle

@@ -27,6 +27,8 @@ class QtSettingsPortal : public QObject {
   std::optional<bool> dark() const;
   bool highContrast() const;
   bool reduceMotion() const;
+  /// How much larger than usual text is wanted, from 0.5 to 3; 1 is the usual.
+  double textScale() const;
 
   [[nodiscard]] Subscription observe(std::function<void()> observer) {
     return changed_.subscribe(std::move(observer));

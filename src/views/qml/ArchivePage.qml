@@ -10,12 +10,10 @@ Item {
 
     required property ArchiveScreen archive
 
-    ListView {
+    KeyboardList {
         id: list
-        anchors { fill: parent; leftMargin: 16; rightMargin: 16; bottomMargin: search.height + 20 }
-        clip: true
+        anchors { fill: parent; leftMargin: 16 - bleed; rightMargin: 16 - bleed; bottomMargin: search.height + 20 }
         model: page.archive.rows
-        boundsBehavior: Flickable.StopAtBounds
         cacheBuffer: 200
 
         // A timeline shorter than the window is padded, so that the boundary can stand at the top.
@@ -25,10 +23,22 @@ Item {
         Accessible.name: Texts.of["Archive"]
 
         delegate: TimelineRow {
-            width: ListView.view.width
+            x: list.bleed
+            width: ListView.view.width - 2 * list.bleed
             archive: page.archive
+            onStepped: (step) => list.visitScheduled(index, step)
         }
 
+        // Tab walks from the list over the scheduled tasks to the search.
+        Keys.onTabPressed: visitScheduled(-1, 1)
+
+        function visitScheduled(from, step) {
+            const row = page.archive.nextScheduled(from, step)
+            if (row < 0) return step > 0 ? search.takeKeyboard() : takeKeyboard()
+            showRow(row)
+            const item = itemAtIndex(row) as TimelineRow
+            if (item) item.takeKeyboard()
+        }
         function showBoundary() {
             positionViewAtIndex(page.archive.boundary, ListView.Beginning)
         }
@@ -45,6 +55,10 @@ Item {
             Qt.callLater(list.showBoundary) // qmllint disable
         }
     }
+    FocusRing {
+        target: list
+        reach: 2 - list.bleed
+    }
     ScrollMark { flickable: list }
 
     SearchBox {
@@ -55,7 +69,16 @@ Item {
 
     Connections {
         target: page.archive
-        function onReleaseKeyboard() { list.forceActiveFocus() }
+        function onReleaseKeyboard() { list.takeKeyboard() }
+        function onRowShown(row) {
+            list.showRow(row)
+            list.takeKeyboard()
+        }
+        function onMenuAsked(row) {
+            list.showRow(row)
+            const item = list.itemAtIndex(row) as TimelineRow
+            if (item) page.archive.openMenu(item.key, item.mapToGlobal(21, item.height))
+        }
     }
-    Component.onCompleted: list.forceActiveFocus()
+    Component.onCompleted: list.takeKeyboard()
 }

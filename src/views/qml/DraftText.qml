@@ -26,9 +26,8 @@ Item {
         text: draft.text
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
-        horizontalAlignment: Text.AlignLeft
         color: draft.color
-        font { family: Theme.fontFamily; pixelSize: draft.size }
+        font { family: Theme.fontFamily; pixelSize: Math.round(draft.size * Theme.textScale) }
 
         TapHandler { onDoubleTapped: draft.opened() }
     }
@@ -40,7 +39,7 @@ Item {
         sourceComponent: InlineEditor {
             initialText: draft.text
             hint: draft.isNote ? "" : draft.archive.dateHint(text)
-            font { family: Theme.fontFamily; pixelSize: draft.size }
+            font { family: Theme.fontFamily; pixelSize: Math.round(draft.size * Theme.textScale) }
             color: draft.color
             onEdited: (typed) => draft.archive.setDraft(typed)
             onDone: draft.archive.commit()

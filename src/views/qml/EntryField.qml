@@ -14,7 +14,7 @@ Rectangle {
 
     Symbol {
         x: 10
-        y: 10
+        y: 8 + (placeholder.implicitHeight - height) / 2
         name: "plus"
         size: 11
         color: Theme.secondary
@@ -42,19 +42,24 @@ Rectangle {
             id: edit
             width: scroller.width
             focus: true
+            activeFocusOnTab: true
             textFormat: TextEdit.PlainText
             wrapMode: TextEdit.Wrap
             selectByMouse: true
             color: Theme.primary
             selectedTextColor: Theme.paper
             selectionColor: Theme.faded(Theme.primary, 0.7)
-            font { family: Theme.fontFamily; pixelSize: Theme.baseSize }
+            font { family: Theme.fontFamily; pixelSize: Math.round(Theme.baseSize * Theme.textScale) }
             onActiveFocusChanged: if (activeFocus) field.today.addFocused()
             onCursorRectangleChanged: scroller.showCaret()
             Accessible.role: Accessible.EditableText
             Accessible.name: Texts.of["Add a task"]
 
             Text {
+                id: placeholder
+                width: parent.width
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: 8
                 text: Texts.of["Add a task"]
                 textFormat: Text.PlainText
                 visible: edit.length === 0 && edit.preeditText.length === 0
@@ -70,12 +75,26 @@ Rectangle {
         theme: Theme
     }
 
+    TextMenu { field: edit }
+
     ReturnKey {
         field: edit
         onCommit: (toTomorrow) => {
             const draft = edit.text
             edit.text = ""  // unlike clear(), which would leave the draft in the history of the field
             field.today.commit(draft, toTomorrow)
+        }
+    }
+
+    // Text from elsewhere goes where the caret is; more than a field can show becomes tasks, and a row only ends its
+    // drag.
+    DropArea {
+        anchors.fill: parent
+        onDropped: (drop) => {
+            drop.accept(Qt.CopyAction)
+            if (field.today.draggingId !== "" || drop.text.length > 16384) return field.today.dropText(drop.text)
+            edit.insert(edit.cursorPosition, drop.text)
+            edit.forceActiveFocus()
         }
     }
 
@@ -91,6 +110,5 @@ Rectangle {
     Connections {
         target: field.today
         function onFocusAdd() { edit.forceActiveFocus() }
-        function onReleaseKeyboard() { field.forceActiveFocus() }
     }
 }

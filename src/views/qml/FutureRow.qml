@@ -20,10 +20,21 @@ Item {
     Accessible.role: Accessible.ListItem
     Accessible.name: text
 
+    /// Asks for the next scheduled task, or with -1 for the one before.
+    signal stepped(step: int)
+
+    onActiveFocusChanged: archive.setFocusedKey(activeFocus ? key : "")
+    Keys.onReturnPressed: archive.beginEdit(key)
+    Keys.onTabPressed: stepped(1)
+    Keys.onBacktabPressed: stepped(-1)
+    Keys.onDeletePressed: archive.remove(key)
+
+    FocusRing { target: row }
+
     MouseArea {
         anchors.fill: parent
         acceptedButtons: Qt.RightButton
-        onClicked: row.archive.openMenu(row.key)
+        onClicked: (mouse) => row.archive.openMenu(row.key, mapToGlobal(mouse.x, mouse.y))
     }
 
     Column {

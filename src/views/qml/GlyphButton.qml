@@ -16,6 +16,9 @@ Symbol {
     Accessible.role: enabled ? Accessible.Button : Accessible.Graphic
     Accessible.name: label
     Accessible.onPressAction: triggered()
+    Keys.onSpacePressed: triggered()
+    Keys.onReturnPressed: triggered()
+    FocusRing { target: button }
 
     MouseArea {
         anchors.fill: parent

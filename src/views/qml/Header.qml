@@ -1,5 +1,6 @@
 // The header: the date, how much is open and how much waits for tomorrow; of the archive, which days and how many
-// entries; and the way from one to the other.
+// entries; and the way from one to the other. What does not fit beside the title stands under it. In the folded window
+// the header is all there is: one line, from which whatever has no room is left out.
 import QtQuick
 import Brimle
 
@@ -9,51 +10,95 @@ Item {
     required property Today today
     required property ArchiveScreen archive
 
-    implicitHeight: 36 + title.implicitHeight + 8
+    readonly property bool folded: today.compact
+    readonly property real gap: 8
+    readonly property real leading: folded ? 62 : 12
+    readonly property real room: width - leading - 16
+
+    // From the leading side: title, count, then from the trailing side: the turn, tomorrow.
+    readonly property real besides: (count.text === "" ? 0 : count.implicitWidth + gap)
+        + (tomorrow.text === "" ? 0 : tomorrow.implicitWidth + gap) + turn.implicitWidth + gap
+    readonly property bool oneLine: folded || title.implicitWidth + besides <= room
+    readonly property real roomForCount: turn.x - gap - count.x
+        - (tomorrow.visible && oneLine ? tomorrow.implicitWidth + gap : 0)
+
+    implicitHeight: folded ? 34 : (oneLine ? title.y + title.height : count.y + count.height) + 8
+
+    Accessible.role: Accessible.Grouping
+    Accessible.name: title.text
+
+    TapHandler {
+        onDoubleTapped: header.today.toggleCompact()
+    }
+    Hint {
+        target: header
+        text: Texts.of["Double-click to collapse"]
+    }
 
     Text {
         id: title
-        x: 12
-        y: 36
-        width: Math.min(implicitWidth, turn.x - x - 8)
+        x: header.leading
+        y: header.folded ? (34 - height) / 2 : 36
+        width: Math.min(implicitWidth, (turn.visible ? turn.x - header.gap : turn.x + turn.width) - x)
         text: header.today.title
         textFormat: Text.PlainText
+        wrapMode: header.folded ? Text.NoWrap : Text.Wrap
+        maximumLineCount: header.folded ? 1 : 3
         elide: Text.ElideRight
+        fontSizeMode: header.folded ? Text.HorizontalFit : Text.FixedSize
+        minimumPixelSize: 10
         color: Theme.primary
-        font { family: Theme.fontFamily; pixelSize: Theme.baseSize + 1; weight: Font.DemiBold }
+        font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize + 1) * Theme.textScale); weight: Font.DemiBold }
+
+        activeFocusOnTab: true
+        Keys.onSpacePressed: header.today.toggleCompact()
+        Keys.onReturnPressed: header.today.toggleCompact()
         Accessible.role: Accessible.Heading
         Accessible.name: text
+        Accessible.description: Texts.of["Double-click to collapse"]
+        Accessible.onPressAction: header.today.toggleCompact()
+        FocusRing { target: title }
     }
 
     Text {
         id: count
-        anchors { left: title.right; leftMargin: 8; baseline: title.baseline }
-        width: Math.min(implicitWidth, tomorrow.x - x - 8)
-        visible: width > 0
+        x: header.oneLine ? title.x + title.width + header.gap : header.leading
+        y: header.oneLine ? title.y + title.baselineOffset - baselineOffset : title.y + title.height + 2
+        visible: text !== "" && (!header.oneLine || implicitWidth <= header.roomForCount)
         text: header.today.count
         textFormat: Text.PlainText
-        elide: Text.ElideRight
         color: header.today.allDone ? Theme.pencilRed : Theme.secondary
-        font { family: Theme.fontFamily; pixelSize: Theme.baseSize - 2 }
+        font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
     }
 
     Text {
         id: tomorrow
-        anchors { right: turn.left; rightMargin: 8; baseline: title.baseline }
+        x: header.width - 16 - implicitWidth - (header.oneLine ? turn.implicitWidth + header.gap : 0)
+        y: header.oneLine ? title.y + title.baselineOffset - baselineOffset
+                          : title.y + title.height + 2 + count.baselineOffset - baselineOffset
+        visible: text !== "" && (!header.folded || x >= title.x + title.width + header.gap)
         text: header.today.tomorrowLabel
         textFormat: Text.PlainText
         color: Theme.tertiary
-        font { family: Theme.fontFamily; pixelSize: Theme.baseSize - 3 }
+        font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize - 3) * Theme.textScale) }
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+        Accessible.description: header.today.tomorrowTooltip
 
         Hint {
             target: tomorrow
             text: header.today.tomorrowTooltip
+            alone: true
         }
     }
 
     TextButton {
         id: turn
-        anchors { right: parent.right; rightMargin: 16; baseline: title.baseline }
+        visible: !header.folded || title.implicitWidth + header.gap + implicitWidth <= header.room
+        x: header.width - 16 - implicitWidth
+        y: title.y + title.baselineOffset - baselineOffset
         text: header.archive.showing ? Texts.of["Today"] : Texts.of["Archive"]
         hint: header.archive.showing ? Texts.of["Back to today"] : Texts.of["Past days"]
         onTriggered: header.archive.showing = !header.archive.showing

@@ -10,6 +10,8 @@ Item {
 
     required property Item target
     required property string text
+    /// Whether no other tooltip of what is beneath may show while this may.
+    property bool alone: false
 
     parent: target
     anchors.fill: parent
@@ -17,6 +19,7 @@ Item {
     HoverHandler {
         id: hover
         enabled: hint.enabled && hint.text !== ""
+        blocking: hint.alone
     }
 
     Timer {
@@ -57,7 +60,7 @@ Item {
                 textFormat: Text.PlainText
                 wrapMode: Text.Wrap
                 color: Theme.primary
-                font { family: Theme.fontFamily; pixelSize: 11 }
+                font { family: Theme.fontFamily; pixelSize: Math.round(11 * Theme.textScale) }
             }
         }
     }

@@ -34,6 +34,8 @@ Item {
         Accessible.name: Texts.of["Edit"]
     }
 
+    TextMenu { field: input }
+
     Text {
         id: after
         anchors { right: parent.right; baseline: input.baseline }
@@ -41,13 +43,25 @@ Item {
         text: editor.hint
         textFormat: Text.PlainText
         color: Theme.tertiary
-        font { family: input.font.family; pixelSize: Theme.baseSize - 2 }
+        font { family: input.font.family; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
+    }
+
+    /// Scrolls the list it stands in so far that it is seen.
+    function show() {
+        let list = parent
+        while (list && !(list instanceof Flickable)) list = list.parent
+        if (!list) return
+        const top = mapToItem(list.contentItem, 0, 0).y
+        list.contentY = Math.max(list.originY, Math.min(top - 5, Math.max(list.contentY, top + height + 5 - list.height)))
     }
 
     // On the turn after it was made, when the row has its place; the caret after that.
     Component.onCompleted: {
         input.text = initialText
         Qt.callLater(input.forceActiveFocus)
-        Qt.callLater(() => { input.cursorPosition = input.length })
+        Qt.callLater(() => {
+            input.cursorPosition = input.length
+            editor.show()
+        })
     }
 }

@@ -25,16 +25,10 @@ Item {
         text: note.noteText
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
-        horizontalAlignment: Text.AlignLeft
         color: Theme.faded(Theme.secondary, 0.55)
-        font { family: Theme.fontFamily; pixelSize: Theme.baseSize - 2 }
+        font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
         Accessible.role: Accessible.StaticText
         Accessible.name: Texts.of["Note"] + ": " + text
-
-        TapHandler {
-            gesturePolicy: TapHandler.ReleaseWithinBounds
-            onDoubleTapped: note.today.beginNoteEdit(note.taskId, note.index)
-        }
     }
 
     Loader {
@@ -44,7 +38,7 @@ Item {
         active: note.editing
         sourceComponent: InlineEditor {
             initialText: note.noteText
-            font { family: Theme.fontFamily; pixelSize: Theme.baseSize - 2 }
+            font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
             color: Theme.secondary
             onEdited: (typed) => note.today.setNote(note.taskId, note.index, typed)
             onDone: note.today.endNoteEdit(note.taskId, note.index)

@@ -30,7 +30,7 @@ Item {
         anchors.fill: parent
         acceptedButtons: Qt.LeftButton | Qt.RightButton
         onClicked: (mouse) => {
-            if (mouse.button === Qt.RightButton) row.archive.openMenu(row.key)
+            if (mouse.button === Qt.RightButton) row.archive.openMenu(row.key, mapToGlobal(mouse.x, mouse.y))
             else row.archive.select(row.key, mouse.modifiers)
         }
     }
@@ -55,9 +55,8 @@ Item {
             text: row.text
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
-            horizontalAlignment: Text.AlignLeft
             color: Theme.secondary
-            font { family: Theme.fontFamily; pixelSize: Theme.baseSize; strikeout: row.completed }
+            font { family: Theme.fontFamily; pixelSize: Math.round(Theme.baseSize * Theme.textScale); strikeout: row.completed }
         }
         Repeater {
             model: row.notes
@@ -69,7 +68,7 @@ Item {
                 textFormat: Text.PlainText
                 wrapMode: Text.Wrap
                 color: Theme.tertiary
-                font { family: Theme.fontFamily; pixelSize: Theme.baseSize - 2 }
+                font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
             }
         }
     }

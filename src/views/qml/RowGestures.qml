@@ -1,5 +1,5 @@
-// The gestures on a row: click selects, double click edits, right click opens the menu, a drag moves the row along
-// with the pointer and offers its text to other programs.
+// The gestures on a row: click selects, double click edits the text or the note under the pointer, right click opens the
+// menu, a drag moves the row along with the pointer and offers its text to other programs.
 import QtQuick
 import Brimle
 
@@ -9,24 +9,33 @@ MouseArea {
     required property Today today
     required property string taskId
     required property string text
+    /// Gives the index of the note at a place of the row, below 0 where there is none.
+    required property var noteAt
 
     acceptedButtons: Qt.LeftButton | Qt.RightButton
     preventStealing: true
     drag.target: ghost
     drag.threshold: 8
 
-    // By assignment: the drag runs an event loop of its own, in which a binding would meet itself.
-    readonly property bool dragged: drag.active
-    onDraggedChanged: ghost.Drag.active = dragged
+    // No binding: the drag runs an event loop of its own, in which one would meet itself.
+    Connections {
+        target: gestures.drag
+        function onActiveChanged() { if (gestures.drag.active) ghost.Drag.active = true }
+    }
 
     // A row moves; what comes from another program stays there, too.
     function action(): int { return today.draggingId !== "" ? Qt.MoveAction : Qt.CopyAction }
 
     onClicked: (mouse) => {
-        if (mouse.button === Qt.RightButton) today.openMenu(taskId)
+        if (mouse.button === Qt.RightButton) today.openMenu(taskId, mapToGlobal(mouse.x, mouse.y))
         else today.select(taskId, mouse.modifiers)
     }
-    onDoubleClicked: (mouse) => { if (mouse.button === Qt.LeftButton) today.beginEdit(taskId) }
+    onDoubleClicked: (mouse) => {
+        if (mouse.button !== Qt.LeftButton) return
+        const note = noteAt(mouse.x, mouse.y)
+        if (note < 0) today.beginEdit(taskId)
+        else today.beginNoteEdit(taskId, note)
+    }
 
     Item {
         id: ghost
@@ -36,7 +45,10 @@ MouseArea {
         Drag.mimeData: { "text/plain": gestures.text }
         Drag.imageSource: "qrc:/qt/qml/Brimle/symbols/nothing.svg"
         Drag.onDragStarted: gestures.today.beginDrag(gestures.taskId)
-        Drag.onDragFinished: gestures.today.endDrag()
+        Drag.onDragFinished: {
+            ghost.Drag.active = false
+            gestures.today.endDrag()
+        }
     }
 
     DropArea {

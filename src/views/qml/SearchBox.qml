@@ -7,6 +7,8 @@ Rectangle {
 
     required property ArchiveScreen archive
 
+    function takeKeyboard() { input.forceActiveFocus(Qt.TabFocusReason) }
+
     implicitHeight: input.height + 16
     radius: 12
     color: Theme.faded(Theme.primary, 0.05)
@@ -22,6 +24,7 @@ Rectangle {
 
     TextInput {
         id: input
+        activeFocusOnTab: true
         anchors { left: glass.right; leftMargin: 9; right: parent.right; rightMargin: 10; verticalCenter: parent.verticalCenter }
         clip: true
         selectByMouse: true
@@ -29,7 +32,7 @@ Rectangle {
         color: Theme.primary
         selectedTextColor: Theme.paper
         selectionColor: Theme.faded(Theme.primary, 0.7)
-        font { family: Theme.fontFamily; pixelSize: Theme.baseSize }
+        font { family: Theme.fontFamily; pixelSize: Math.round(Theme.baseSize * Theme.textScale) }
         onTextEdited: box.archive.query = text
         Keys.onEscapePressed: {
             if (text !== "") box.archive.query = ""
@@ -39,6 +42,9 @@ Rectangle {
         Accessible.name: Texts.of["Search archive"]
 
         Text {
+            width: parent.width
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 8
             text: Texts.of["Search archive"]
             textFormat: Text.PlainText
             visible: input.length === 0 && input.preeditText.length === 0
@@ -46,6 +52,8 @@ Rectangle {
             font: input.font
         }
     }
+
+    TextMenu { field: input }
 
     TapHandler { onTapped: input.forceActiveFocus() }
 }

@@ -17,6 +17,7 @@ Item {
     required property string repeats
     required property string link
     required property bool editing
+    required property bool selected
     required property bool hovered
 
     /// Where the first baseline of the text stands below the top of the dot.
@@ -44,9 +45,8 @@ Item {
             text: line.taskText
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
-            horizontalAlignment: Text.AlignLeft
             color: line.done ? Theme.secondary : Theme.primary
-            font { family: Theme.fontFamily; pixelSize: Theme.baseSize; strikeout: line.done }
+            font { family: Theme.fontFamily; pixelSize: Math.round(Theme.baseSize * Theme.textScale); strikeout: line.done }
             HoverHandler { cursorShape: Qt.IBeamCursor }
         }
 
@@ -57,7 +57,7 @@ Item {
             sourceComponent: InlineEditor {
                 initialText: line.taskText
                 hint: line.today.dateHint(text)
-                font { family: Theme.fontFamily; pixelSize: Theme.baseSize }
+                font { family: Theme.fontFamily; pixelSize: Math.round(Theme.baseSize * Theme.textScale) }
                 color: Theme.primary
                 onEdited: (typed) => line.today.setText(line.taskId, typed)
                 onDone: line.today.endEdit(line.taskId)
@@ -79,6 +79,7 @@ Item {
             size: 11
             color: Theme.secondary
             label: line.link
+            activeFocusOnTab: line.selected
             onTriggered: line.today.openLink(line.link)
         }
         GlyphButton {

@@ -6,22 +6,32 @@ import Brimle
 // Ids of this file are read inside components of it, which Qt before 6.5 has no way to declare.
 // qmllint disable unqualified
 
-ListView {
+KeyboardList {
     id: list
 
     required property Today today
 
-    clip: true
     model: today.tasks
-    boundsBehavior: Flickable.StopAtBounds
     reuseItems: false
     cacheBuffer: 400
 
     Accessible.role: Accessible.List
     Accessible.name: Texts.of["Task list"]
 
+    Connections {
+        target: list.today
+        function onRowShown(row) { list.showRow(row) }
+        function onMenuAsked(row) {
+            list.showRow(row)
+            const item = list.itemAtIndex(row) as TaskRow
+            if (item) list.today.openMenu(item.taskId, item.mapToGlobal(33, item.height))
+        }
+        function onReleaseKeyboard() { list.takeKeyboard() }
+    }
+
     delegate: TaskRow {
-        width: ListView.view.width
+        x: list.bleed
+        width: ListView.view.width - 2 * list.bleed
         today: list.today
     }
 

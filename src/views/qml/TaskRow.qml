@@ -34,11 +34,17 @@ Item {
                 selected ? Texts.of["selected"] : ""].filter(word => word !== "")
     }
 
+    function noteAt(x: real, y: real): int {
+        const line = content.childAt(x - content.x, y - content.y)
+        return line instanceof NoteLine ? line.index : -1
+    }
+
     RowGestures {
         anchors.fill: parent
         today: row.today
         taskId: row.taskId
         text: row.taskText
+        noteAt: row.noteAt
     }
 
     Repeater {
@@ -84,6 +90,7 @@ Item {
             repeats: row.repeats
             link: row.link
             editing: row.editing
+            selected: row.selected
             hovered: hover.hovered
         }
 

@@ -10,11 +10,15 @@ Text {
 
     textFormat: Text.PlainText
     color: area.containsMouse ? Theme.primary : Theme.secondary
-    font { family: Theme.fontFamily; pixelSize: Theme.baseSize - 2 }
+    font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
 
+    activeFocusOnTab: true
+    Keys.onSpacePressed: triggered()
+    Keys.onReturnPressed: triggered()
     Accessible.role: Accessible.Button
     Accessible.name: text
     Accessible.description: hint
+    Accessible.focusable: true
     Accessible.onPressAction: triggered()
 
     MouseArea {
@@ -28,5 +32,7 @@ Text {
     Hint {
         target: button
         text: button.hint
+        alone: true
     }
+    FocusRing { target: button }
 }

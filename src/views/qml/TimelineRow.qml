@@ -19,6 +19,11 @@ Item {
     required property int noteEditing
     required property int index
 
+    /// From a scheduled task that has the keyboard: to the next one, or with -1 to the one before.
+    signal stepped(step: int)
+
+    function takeKeyboard() { body.item?.forceActiveFocus() }
+
     implicitHeight: body.item?.implicitHeight ?? 0
 
     Loader {
@@ -43,7 +48,7 @@ Item {
                 color: Theme.secondary
                 font {
                     family: Theme.fontFamily
-                    pixelSize: row.kind === "nothing" ? Theme.baseSize - 1 : Theme.baseSize - 2
+                    pixelSize: Math.round((Theme.baseSize - (row.kind === "nothing" ? 1 : 2)) * Theme.textScale)
                     weight: row.kind === "nothing" ? Font.Normal : Font.DemiBold
                 }
                 Accessible.role: row.kind === "nothing" ? Accessible.StaticText : Accessible.Heading
@@ -81,6 +86,7 @@ Item {
             notes: row.notes
             editing: row.editing
             noteEditing: row.noteEditing
+            onStepped: (step) => row.stepped(step)
         }
     }
 }

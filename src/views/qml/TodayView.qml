@@ -23,18 +23,24 @@ Item {
         id: rule
         anchors { left: parent.left; right: parent.right; top: header.bottom; leftMargin: 12; rightMargin: 16 }
         height: 1
+        visible: !view.today.compact
         color: Theme.faded(Theme.primary, 0.08)
     }
 
     Item {
         id: body
         anchors { left: parent.left; right: parent.right; top: rule.bottom; bottom: parent.bottom; topMargin: 4 }
+        visible: !view.today.compact
 
         TaskList {
             id: tasks
-            anchors { fill: parent; leftMargin: 16; rightMargin: 16; bottomMargin: entry.height + 20 }
+            anchors { fill: parent; leftMargin: 16 - bleed; rightMargin: 16 - bleed; bottomMargin: entry.height + 20 }
             visible: !view.archive.showing
             today: view.today
+        }
+        FocusRing {
+            target: tasks
+            reach: 2 - tasks.bleed
         }
         ScrollMark {
             flickable: tasks

@@ -19,6 +19,14 @@ Rectangle {
     Accessible.name: label
     Accessible.onPressAction: triggered()
 
+    activeFocusOnTab: true
+    Keys.onSpacePressed: triggered()
+    Keys.onReturnPressed: triggered()
+    FocusRing {
+        target: button
+        radius: 9
+    }
+
     Symbol {
         anchors.fill: parent
         visible: button.glyphShown

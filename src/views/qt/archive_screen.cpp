@@ -8,7 +8,7 @@
 namespace brimle {
 
 ArchiveScreen::ArchiveScreen(Store& store, SelectionModel& sel, UIState& ui, ArchiveView& view)
-    : store_(store), ui_(ui), view_(view), commands_(store, sel, ui), rows_(store, view, sel) {
+    : store_(store), ui_(ui), sel_(sel), view_(view), commands_(store, sel, ui), rows_(store, view, sel) {
   subscriptions_.push_back(store.observe([this](const Store::Changes& changes) {
     if (shown_ && (changes.has(Store::Field::archive) || changes.has(Store::Field::scheduled))) refresh();
   }));
@@ -49,10 +49,31 @@ void ArchiveScreen::select(const QString& key, int modifiers) {
   emit releaseKeyboard();
 }
 
-void ArchiveScreen::openMenu(const QString& key) {
+void ArchiveScreen::openMenu(const QString& key, const QPointF& place) {
   const auto id = Uuid::parse(fromQt(key));
   const TimelineRow* row = id ? rows_.find(*id) : nullptr;
-  if (row) popUpMenu(view_.menu(*row));
+  if (row) popUpMenu(view_.menu(*row), place.toPoint());
+}
+
+/// The row the selection ends at; -1 where nothing that is visible is selected.
+int ArchiveScreen::leadRow() const {
+  const auto lead = selectedLead(sel_.rows(RowList::archive));
+  return lead ? rows_.rowOf(*lead) : -1;
+}
+
+bool ArchiveScreen::askForMenu() {
+  const auto focused = Uuid::parse(fromQt(focusedKey_));
+  const int row = focused ? rows_.rowOf(*focused) : leadRow();
+  if (row >= 0) emit menuAsked(row);
+  return row >= 0;
+}
+
+void ArchiveScreen::showLead() {
+  if (const int row = leadRow(); row >= 0) emit rowShown(row);
+}
+
+void ArchiveScreen::remove(const QString& key) {
+  if (const auto id = Uuid::parse(fromQt(key))) store_.removeScheduled(*id);
 }
 
 void ArchiveScreen::beginEdit(const QString& key) {

@@ -4,6 +4,7 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
+#include <QPointF>
 
 #include "control/row_commands.h"
 #include "views/archive_view.h"
@@ -34,7 +35,10 @@ class ArchiveScreen : public QObject {
   /// How far the boundary stands below the top of what is visible, in points.
   Q_INVOKABLE void boundaryMoved(double distance);
   Q_INVOKABLE void select(const QString& key, int modifiers);
-  Q_INVOKABLE void openMenu(const QString& key);
+  /// Opens the row's context menu at a place on the screen.
+  Q_INVOKABLE void openMenu(const QString& key, const QPointF& place);
+
+  Q_INVOKABLE void remove(const QString& key);
 
   Q_INVOKABLE void beginEdit(const QString& key);
   Q_INVOKABLE void beginNoteEdit(const QString& key, int index);
@@ -45,21 +49,37 @@ class ArchiveScreen : public QObject {
   Q_INVOKABLE void walkDown() { view_.walkDown(); }
   Q_INVOKABLE void walkUp() { view_.walkUp(); }
 
+  // For the keyboard.
+  /// The scheduled task that has the keyboard, or nothing.
+  Q_INVOKABLE void setFocusedKey(const QString& key) { focusedKey_ = key; }
+  /// The row of the next scheduled task below a row, or above with -1; -1 where there is none.
+  Q_INVOKABLE int nextScheduled(int row, int step) const { return rows_.nextScheduled(row, step); }
+  /// Asks the timeline for the context menu of the row that has the keyboard, else of the one the selection
+  /// ends at; whether there is one.
+  bool askForMenu();
+  /// Asks the timeline to scroll to where the selection ends.
+  void showLead();
+
  signals:
+  void menuAsked(int row);
+  void rowShown(int row);
   void changed();
   void rowsChanged();
   void releaseKeyboard();
 
  private:
   void refresh();
+  int leadRow() const;
 
   Store& store_;
   UIState& ui_;
+  SelectionModel& sel_;
   ArchiveView& view_;
   ArchiveCommands commands_;
   TimelineModel rows_;
   bool shown_ = false;
   std::string query_;
+  QString focusedKey_;
   std::vector<Subscription> subscriptions_;
 };
 

@@ -1,31 +1,75 @@
 #include "views/qt/context_menu.h"
 
-#include <QActionGroup>
-#include <QCursor>
 #include <QMenu>
+#include <QProxyStyle>
+#include <QStyleOptionMenuItem>
 
 #include "views/qt/convert.h"
+#include "views/qt/theme.h"
 
 namespace brimle {
+namespace {
 
-void popUpMenu(std::vector<MenuItem> items) {
+constexpr const char* kDestructive = "destructive";
+
+/// Draws destructive items in the warning colour.
+class MenuStyle : public QProxyStyle {
+ public:
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override {
+    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    const auto* menu = qobject_cast<const QMenu*>(widget);
+    const QAction* action = item && menu ? menu->actionAt(item->rect.center()) : nullptr;
+    if (element != CE_MenuItem || !action || !action->property(kDestructive).toBool()) {
+      return QProxyStyle::drawControl(element, option, painter, widget);
+    }
+    QStyleOptionMenuItem warning(*item);
+    for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text}) {
+      warning.palette.setColor(role, Theme::create(nullptr, nullptr)->pencilRed());
+    }
+    QProxyStyle::drawControl(element, &warning, painter, widget);
+  }
+};
+
+/// The title, in which an ampersand is a letter and not a mnemonic, and its key after a tab.
+QString label(const MenuEntry& item) {
+  QString text = toQt(item.title).replace(QLatin1Char('&'), QLatin1String("&&"));
+  if (item.key == 0) return text;
+  const QChar key = QLatin1Char(item.key);
+  const Qt::KeyboardModifiers held =
+      key.isUpper() ? Qt::ControlModifier | Qt::ShiftModifier : Qt::ControlModifier;
+  return text + QLatin1Char('\t') +
+         QKeySequence(held | Qt::Key(key.toUpper().unicode())).toString(QKeySequence::NativeText);
+}
+
+void fill(QMenu* menu, const std::vector<MenuEntry>& items);
+
+void addItem(QMenu* menu, const MenuEntry& item) {
+  if (item.isSeparator()) return void(menu->addSeparator());
+  if (!item.items.empty()) return fill(menu->addMenu(label(item)), item.items);
+  QAction* action = menu->addAction(label(item));
+  action->setEnabled(item.action != nullptr);
+  action->setProperty(kDestructive, item.destructive);
+  action->setCheckable(item.on.has_value());
+  action->setChecked(item.on.value_or(false));
+  if (item.action) QObject::connect(action, &QAction::triggered, action, item.action);
+}
+
+void fill(QMenu* menu, const std::vector<MenuEntry>& items) {
+  for (const MenuEntry& item : items) addItem(menu, item);
+}
+
+}  // namespace
+
+void popUpMenu(const std::vector<MenuEntry>& items, QPoint place) {
   if (items.empty()) return;
   auto* menu = new QMenu;
   menu->setAttribute(Qt::WA_DeleteOnClose);
-  auto* choice = new QActionGroup(menu);
-  for (MenuItem& item : items) {
-    if (item.isSeparator()) {
-      menu->addSeparator();
-      continue;
-    }
-    // An ampersand in a title is a letter, not a mnemonic.
-    QAction* action = menu->addAction(toQt(item.title).replace(QLatin1Char('&'), QLatin1String("&&")));
-    action->setCheckable(item.chosen.has_value());
-    action->setChecked(item.chosen.value_or(false));
-    if (item.chosen) choice->addAction(action);
-    QObject::connect(action, &QAction::triggered, action, std::move(item.action));
-  }
-  menu->popup(QCursor::pos());
+  auto* style = new MenuStyle;
+  style->setParent(menu);
+  menu->setStyle(style);
+  fill(menu, items);
+  menu->popup(place);
 }
 
 }  // namespace brimle

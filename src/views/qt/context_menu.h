@@ -1,13 +1,15 @@
-// Shows a context menu given as data. It may leave the window.
+// A menu on the screen.
 #pragma once
 
+#include <QPoint>
 #include <vector>
 
-#include "views/menu_item.h"
+#include "platform/menu.h"
 
 namespace brimle {
 
-/// Opens the menu at the pointer; nothing where it has no items. The chosen item's action runs later.
-void popUpMenu(std::vector<MenuItem> items);
+/// Shows the menu at a place on the screen; nothing where it has no items. An action runs when its item is
+/// chosen. The keys beside the items are only shown.
+void popUpMenu(const std::vector<MenuEntry>& items, QPoint place);
 
 }  // namespace brimle

@@ -73,6 +73,10 @@ KeyPress keyPressOf(const QKeyEvent& event) {
   }
   if (key >= Qt::Key_Space && key < 0x80) press.characters = fromQt(QString(QChar(key)).toLower());
   press.modifiers = modifiersOf(event.modifiers());
+  if (event.matches(QKeySequence::Paste)) {  // the desktop's other keys for it, such as Shift+Insert
+    press.characters = "v";
+    press.modifiers = Modifier::command;
+  }
   if (event.nativeModifiers() & kCapsLock) press.modifiers = press.modifiers | Modifier::capsLock;
   return press;
 }

@@ -78,7 +78,12 @@ QHash<int, QByteArray> TaskListModel::roleNames() const {
           {selectedRole, "selected"}, {editingRole, "editing"}, {noteEditingRole, "noteEditing"}};
 }
 
-TaskListModel::Row TaskListModel::rowOf(const TodoItem& task) const {
+int TaskListModel::rowOf(const Uuid& id) const {
+  const auto found = std::ranges::find(rows_, id, [](const Row& row) { return row.task.id; });
+  return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+}
+
+TaskListModel::Row TaskListModel::look(const TodoItem& task) const {
   Row row{task};
   row.sweeping = store_.sweepingIDs().contains(task.id);
   row.selected = sel_.selection().contains(task.id);
@@ -98,7 +103,7 @@ void TaskListModel::refresh() {
 void TaskListModel::refreshOnce() {
   std::vector<Row> next;
   for (const TodoItem* task : store_.visibleItems()) {
-    next.push_back(rowOf(*task));
+    next.push_back(look(*task));
   }
   reorder(next);
   updateValues(std::move(next));

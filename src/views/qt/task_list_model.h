@@ -38,6 +38,9 @@ class TaskListModel : public QAbstractListModel {
   QVariant data(const QModelIndex& index, int role) const override;
   QHash<int, QByteArray> roleNames() const override;
 
+  /// Where the row of this task stands, or -1.
+  int rowOf(const Uuid& id) const;
+
   /// Brings the rows in line with the store.
   void refresh();
 
@@ -54,7 +57,7 @@ class TaskListModel : public QAbstractListModel {
   };
 
   void refreshOnce();
-  Row rowOf(const TodoItem& task) const;
+  Row look(const TodoItem& task) const;
   void reorder(const std::vector<Row>& next);
   void updateValues(std::vector<Row> next);
 

@@ -2,6 +2,7 @@
 
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <utility>
 
 #include "views/qt/convert.h"
 #include "views/spring.h"
@@ -20,6 +21,13 @@ QVariantList curveOf(const Spring& spring) {
   QVariantList list;
   for (const double number : spring.bezier()) list.append(number);
   return list;
+}
+
+/// A translucent colour as it looks on a ground.
+QColor over(const QColor& color, const QColor& ground) {
+  const auto mix = [a = color.alphaF()](float top, float below) { return top * a + below * (1 - a); };
+  return QColor::fromRgbF(mix(color.redF(), ground.redF()), mix(color.greenF(), ground.greenF()),
+                          mix(color.blueF(), ground.blueF()));
 }
 
 int milliseconds(const Spring& spring) {
@@ -59,22 +67,26 @@ Theme* Theme::create(QQmlEngine*, QJSEngine*) {
   return instance;
 }
 
+template <class Value>
+void Theme::assign(Value& member, Value value) {
+  if (std::exchange(member, value) != value) emit changed();
+}
+
 void Theme::setAppearance(Appearance appearance) {
-  if (appearance_ == appearance) return;
-  appearance_ = appearance;
-  emit changed();
+  assign(appearance_, appearance);
 }
-
 void Theme::setHighContrast(bool high) {
-  if (highContrast_ == high) return;
-  highContrast_ = high;
-  emit changed();
+  assign(highContrast_, high);
+}
+void Theme::setReduceMotion(bool reduce) {
+  assign(reduceMotion_, reduce);
+}
+void Theme::setFocusShown(bool shown) {
+  assign(focusShown_, shown);
 }
 
-void Theme::setReduceMotion(bool reduce) {
-  if (reduceMotion_ == reduce) return;
-  reduceMotion_ = reduce;
-  emit changed();
+void Theme::setTextScale(double scale) {
+  assign(textScale_, scale);
 }
 
 QColor Theme::paper() const {
@@ -108,6 +120,10 @@ QString Theme::fontFamily() const {
     case FontDesign::rounded: return roundedFamily();
     case FontDesign::standard: break;
   }
+  return systemFamily();
+}
+
+QString Theme::systemFamily() const {
   return QGuiApplication::font().family();
 }
 
@@ -122,6 +138,24 @@ QVariantList Theme::tickSpring() const {
 }
 int Theme::tickSpringDuration() const {
   return milliseconds(kTickSpring);
+}
+
+QPalette Theme::palette() const {
+  QPalette palette(paper());
+  const QColor text = over(primary(), paper());
+  for (const auto role :
+       {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
+    palette.setColor(role, text);
+    palette.setColor(QPalette::Disabled, role, over(tertiary(), paper()));
+  }
+  for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button, QPalette::ToolTipBase}) {
+    palette.setColor(role, paper());
+  }
+  palette.setColor(QPalette::Highlight, over(faded(primary(), 0.16), paper()));
+  palette.setColor(QPalette::HighlightedText, text);
+  palette.setColor(QPalette::PlaceholderText, over(placeholder(), paper()));
+  palette.setColor(QPalette::Link, pencilRed());
+  return palette;
 }
 
 QColor Theme::faded(const QColor& color, double opacity) {

@@ -7,6 +7,7 @@
 #include <QFont>
 #include <QJSEngine>
 #include <QObject>
+#include <QPalette>
 #include <QQmlEngine>
 #include <QVariantList>
 
@@ -29,9 +30,12 @@ class Theme : public QObject {
   Q_PROPERTY(QColor tertiary READ tertiary NOTIFY changed)
   Q_PROPERTY(QColor placeholder READ placeholder NOTIFY changed)
   Q_PROPERTY(QString fontFamily READ fontFamily NOTIFY changed)
+  Q_PROPERTY(QString systemFamily READ systemFamily CONSTANT)
   Q_PROPERTY(double baseSize READ baseSize NOTIFY changed)
+  Q_PROPERTY(double textScale READ textScale NOTIFY changed)
   Q_PROPERTY(double listInset READ listInset NOTIFY changed)
   Q_PROPERTY(bool reduceMotion READ reduceMotion NOTIFY changed)
+  Q_PROPERTY(bool focusShown READ focusShown NOTIFY changed)
   Q_PROPERTY(QVariantList listSpring READ listSpring CONSTANT)
   Q_PROPERTY(int listSpringDuration READ listSpringDuration CONSTANT)
   Q_PROPERTY(QVariantList tickSpring READ tickSpring CONSTANT)
@@ -48,6 +52,9 @@ class Theme : public QObject {
   void setAppearance(Appearance appearance);
   void setHighContrast(bool high);
   void setReduceMotion(bool reduce);
+  void setFocusShown(bool shown);
+  /// How much larger than usual the desktop wants text; 1 is the usual.
+  void setTextScale(double scale);
 
   QColor paper() const;
   QColor pencilRed() const;
@@ -58,13 +65,21 @@ class Theme : public QObject {
   QColor tertiary() const;
   QColor placeholder() const;
   QString fontFamily() const;
+  QString systemFamily() const;
   double baseSize() const { return ui_.baseSize(); }
+  /// What font sizes are multiplied by.
+  double textScale() const { return textScale_; }
   double listInset() const { return ui_.listInset(); }
   bool reduceMotion() const { return reduceMotion_; }
+  /// Whether controls show that they have the keyboard: from the key that moves it to the next click.
+  bool focusShown() const { return focusShown_; }
   QVariantList listSpring() const;
   int listSpringDuration() const;
   QVariantList tickSpring() const;
   int tickSpringDuration() const;
+
+  /// The same colours for menus and dialogs.
+  QPalette palette() const;
 
   /// A colour at a share of its opacity.
   Q_INVOKABLE static QColor faded(const QColor& color, double opacity);
@@ -73,11 +88,16 @@ class Theme : public QObject {
   void changed();
 
  private:
+  template <class Value>
+  void assign(Value& member, Value value);
+
   UIState& ui_;
   Subscription settings_;
   Appearance appearance_ = Appearance::light;
   bool highContrast_ = false;
   bool reduceMotion_ = false;
+  bool focusShown_ = false;
+  double textScale_ = 1;
 };
 
 }  // namespace brimle

@@ -135,10 +135,23 @@ void TimelineModel::touch() {
   if (!rows_.empty()) emit dataChanged(index(0), index(rowCount() - 1));
 }
 
+int TimelineModel::rowOf(const Uuid& key) const {
+  const auto found = std::ranges::find(rows_, key, &TimelineRow::key);
+  return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+}
+
+int TimelineModel::nextScheduled(int row, int step) const {
+  for (row += step; row >= 0 && row < rowCount(); row += step) {
+    const auto kind = rows_[static_cast<std::size_t>(row)].kind;
+    if (kind == TimelineRow::Kind::futureTask) return row;
+    if (kind == TimelineRow::Kind::boundary) break;
+  }
+  return -1;
+}
+
 const TimelineRow* TimelineModel::find(const Uuid& key) const {
-  const auto found =
-      std::find_if(rows_.begin(), rows_.end(), [&](const TimelineRow& row) { return row.key == key; });
-  return found == rows_.end() ? nullptr : &*found;
+  const int row = rowOf(key);
+  return row < 0 ? nullptr : &rows_[static_cast<std::size_t>(row)];
 }
 
 }  // namespace brimle

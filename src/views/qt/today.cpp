@@ -2,6 +2,8 @@
 
 #include <QDesktopServices>
 #include <QUrl>
+#include <algorithm>
+#include <unordered_set>
 
 #include "views/qt/context_menu.h"
 #include "views/qt/convert.h"
@@ -60,7 +62,12 @@ QString Today::draggingId() const {
 }
 
 void Today::commit(const QString& draft, bool toTomorrow) {
+  const std::vector<Uuid> before = visibleIDs(parts_.store);
+  const std::unordered_set<Uuid> known(before.begin(), before.end());
   parts_.content.commitDraft(fromQt(draft), toTomorrow);
+  const std::vector<Uuid> now = visibleIDs(parts_.store);
+  const auto added = std::ranges::find_if_not(now, [&](const Uuid& id) { return known.contains(id); });
+  if (added != now.end()) emit rowShown(static_cast<int>(added - now.begin()));
 }
 
 void Today::toggle(const QString& taskId) {
@@ -82,8 +89,24 @@ void Today::openLink(const QString& address) {
   QDesktopServices::openUrl(QUrl(address));
 }
 
-void Today::openMenu(const QString& taskId) {
-  withId(taskId, [&](const Uuid& id) { popUpMenu(rows_.menu(id)); });
+void Today::openMenu(const QString& taskId, const QPointF& place) {
+  withId(taskId, [&](const Uuid& id) { popUpMenu(rows_.menu(id), place.toPoint()); });
+}
+
+/// The row the selection ends at; -1 where nothing that is visible is selected.
+int Today::leadRow() const {
+  const auto lead = selectedLead(parts_.sel.rows(RowList::today));
+  return lead ? tasks_.rowOf(*lead) : -1;
+}
+
+bool Today::askForMenu() {
+  const int row = leadRow();
+  if (row >= 0) emit menuAsked(row);
+  return row >= 0;
+}
+
+void Today::showLead() {
+  if (const int row = leadRow(); row >= 0) emit rowShown(row);
 }
 
 void Today::beginEdit(const QString& taskId) {

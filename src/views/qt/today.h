@@ -3,6 +3,7 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
+#include <QPointF>
 #include <QQuickWindow>
 
 #include "base/signal.h"
@@ -28,6 +29,7 @@ class Today : public QObject {
   Q_PROPERTY(QString tomorrowLabel READ tomorrowLabel NOTIFY changed)
   Q_PROPERTY(QString tomorrowTooltip READ tomorrowTooltip NOTIFY changed)
   Q_PROPERTY(QString draggingId READ draggingId NOTIFY dragChanged)
+  Q_PROPERTY(bool compact READ compact NOTIFY changed)
 
  public:
   /// What the view is made of; all must outlive it.
@@ -49,7 +51,11 @@ class Today : public QObject {
   QString tomorrowLabel() const;
   QString tomorrowTooltip() const;
   QString draggingId() const;
+  /// Whether the window is folded to its header.
+  bool compact() const { return parts_.ui.compact(); }
   EntryContext entryContext() const { return parts_.store.entryContext(); }
+
+  Q_INVOKABLE void toggleCompact() { parts_.ui.setCompact(!compact()); }
 
   // The entry field.
   Q_INVOKABLE void commit(const QString& draft, bool toTomorrow);
@@ -61,8 +67,8 @@ class Today : public QObject {
   Q_INVOKABLE void select(const QString& taskId, int modifiers);
   Q_INVOKABLE void togglePin(const QString& taskId);
   Q_INVOKABLE void openLink(const QString& address);
-  /// Opens the row's context menu at the pointer.
-  Q_INVOKABLE void openMenu(const QString& taskId);
+  /// Opens the row's context menu at a place on the screen.
+  Q_INVOKABLE void openMenu(const QString& taskId, const QPointF& place);
 
   // The editors in place.
   Q_INVOKABLE void beginEdit(const QString& taskId);
@@ -81,7 +87,16 @@ class Today : public QObject {
   Q_INVOKABLE void endDrag();
   Q_INVOKABLE void dropText(const QString& text);
 
+  // For the keyboard.
+  /// Asks the list for the context menu of the selected row, of several the one the selection ends at;
+  /// whether there is one.
+  bool askForMenu();
+  /// Asks the list to scroll to where the selection ends.
+  void showLead();
+
  signals:
+  void menuAsked(int row);
+  void rowShown(int row);
   void changed();
   void dragChanged();
   /// The entry field is asked to take the keyboard.
@@ -91,6 +106,7 @@ class Today : public QObject {
 
  private:
   void refreshHeader();
+  int leadRow() const;
 
   const Parts parts_;
   HeaderLook header_;

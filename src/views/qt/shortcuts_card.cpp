@@ -1,0 +1,49 @@
+#include "views/qt/shortcuts_card.h"
+
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QScreen>
+#include <utility>
+
+#include "views/qt/convert.h"
+#include "views/shortcuts_view.h"
+
+namespace brimle {
+
+ShortcutsCard::ShortcutsCard(QQmlEngine& engine, UIState& ui, Region region)
+    : engine_(engine), region_(std::move(region)), settings_(ui.observe([this] { emit changed(); })) {}
+
+QVariantList ShortcutsCard::sections() const {
+  QVariantList sections;
+  for (const ShortcutsSection& section : shortcutsCard(region_)) {
+    QVariantList rows;
+    for (const auto& row : section.rows) {
+      rows.append(QVariantMap{{QStringLiteral("keys"), toQt(row.keys)},
+                              {QStringLiteral("description"), toQt(row.description)},
+                              {QStringLiteral("hint"), toQt(row.hint)}});
+    }
+    sections.append(
+        QVariantMap{{QStringLiteral("title"), toQt(section.title)}, {QStringLiteral("rows"), rows}});
+  }
+  return sections;
+}
+
+void ShortcutsCard::show() {
+  if (!panel_) panel_.reset(makePanel());
+  panel_->show();
+  panel_->raise();
+  panel_->requestActivate();
+}
+
+QQuickWindow* ShortcutsCard::makePanel() {
+  QQmlComponent component(&engine_, QUrl(QStringLiteral("qrc:/qt/qml/Brimle/ShortcutsPanel.qml")));
+  auto* panel = qobject_cast<QQuickWindow*>(
+      component.createWithInitialProperties({{QStringLiteral("card"), QVariant::fromValue(this)}}));
+  if (!panel) qFatal("the shortcuts panel could not be made");
+  if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+    panel->setPosition(screen->availableGeometry().center() - panel->geometry().center() + panel->position());
+  }
+  return panel;
+}
+
+}  // namespace brimle

@@ -1,0 +1,65 @@
+"""The user's hands: key presses and mouse events made by the X server, the same as from real devices. Points are
+(x, y) in pixels of the screen. The server takes events in their order, so nothing here waits.
+"""
+import math
+import subprocess
+
+STEP = 5  # pixels between two events of a pointer on its way
+KEY_DELAY = 8  # milliseconds between two typed characters
+DOUBLE_CLICK_DELAY = 60  # milliseconds
+NOWHERE = (5, 790)  # a corner of the screen without windows
+
+
+def _xdotool(*words):
+    subprocess.run(["xdotool", *map(str, words)], check=True, timeout=30)
+
+
+def press(*keys):
+    """Key presses, as xdotool names them: "Return", "ctrl+z"."""
+    _xdotool("key", "--delay", KEY_DELAY, *keys)
+
+
+def typeText(text):
+    _xdotool("type", "--delay", KEY_DELAY, "--", text)
+
+
+def enter(text):
+    """Types a line and ends it with Return."""
+    typeText(text)
+    press("Return")
+
+
+def moveTo(point):
+    _xdotool("mousemove", *point)
+
+
+def click(point, button=1, held=None):
+    """A click, with the modifier `held` where one is named ("ctrl", "shift")."""
+    holding = (["keydown", held], ["keyup", held]) if held else ([], [])
+    _xdotool("mousemove", *point, *holding[0], "click", button, *holding[1])
+
+
+def rightClick(point):
+    click(point, button=3)
+
+
+def doubleClick(point):
+    _xdotool("mousemove", *point, "click", "--repeat", 2, "--delay", DOUBLE_CLICK_DELAY, 1)
+
+
+def takeHold(point):
+    """The left button goes down, and stays."""
+    _xdotool("mousemove", *point, "mousedown", 1)
+
+
+def letGo():
+    _xdotool("mouseup", 1)
+
+
+def glide(start, end):
+    """The pointer goes from one point to another, through those between."""
+    steps = max(1, math.ceil(math.dist(start, end) / STEP))
+    words = []
+    for step in range(1, steps + 1):
+        words += ["mousemove", *(round(a + (b - a) * step / steps) for a, b in zip(start, end))]
+    _xdotool(*words)
