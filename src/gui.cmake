@@ -1,10 +1,10 @@
 # The desktop program: the ports on Qt, the QML module and the executable.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Qml Quick Svg DBus)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Network Qml Quick Svg DBus)
 set(CMAKE_AUTOMOC ON)
 
 file(GLOB desktop_sources CONFIGURE_DEPENDS platform/desktop/qt_*.cpp)
 add_library(brimle_desktop STATIC ${desktop_sources})
-target_link_libraries(brimle_desktop PUBLIC brimle_posix Qt6::Widgets Qt6::DBus)
+target_link_libraries(brimle_desktop PUBLIC brimle_posix Qt6::Widgets Qt6::Network Qt6::DBus)
 
 file(GLOB view_sources CONFIGURE_DEPENDS views/qt/*.cpp views/qt/*.h)
 file(GLOB qml_files RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} CONFIGURE_DEPENDS views/qml/*.qml)

@@ -1,6 +1,8 @@
 #include "views/archive_timeline.h"
 
 #include <algorithm>
+#include <numeric>
+#include <string>
 #include <unordered_map>
 
 namespace brimle {
@@ -22,13 +24,20 @@ Uuid keyOf(Kind kind, std::string_view date, std::size_t turn) {
   return key;
 }
 
-void appendFuture(Rows& rows, const Store& store) {
-  const auto& scheduled = store.scheduled();
-  for (std::size_t index = 0; index < scheduled.size(); ++index) {
-    if (index == 0 || scheduled[index].date != scheduled[index - 1].date) {
-      rows.push_back({Kind::futureDay, keyOf(Kind::futureDay, scheduled[index].date, 0), nullptr, index});
+void appendFuture(Rows& rows, const std::vector<ScheduledItem>& scheduled) {
+  std::vector<std::size_t> order(scheduled.size());
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  // The list is in order once it has been changed, but not where it comes from a file that others wrote.
+  std::ranges::stable_sort(
+      order, {}, [&](std::size_t index) -> const auto& { return scheduled[index].date; });
+  const std::string* date = nullptr;
+  for (const std::size_t index : order) {
+    const ScheduledItem& entry = scheduled[index];
+    if (!date || entry.date != *date) {
+      rows.push_back({Kind::futureDay, keyOf(Kind::futureDay, entry.date, 0), nullptr, index});
     }
-    rows.push_back({Kind::futureTask, scheduled[index].id, nullptr, index});
+    date = &entry.date;
+    rows.push_back({Kind::futureTask, entry.id, nullptr, index});
   }
 }
 
@@ -53,7 +62,7 @@ void appendPast(Rows& rows, const Archive& archive, const Store::Ids& matches) {
 
 Rows archiveTimeline(const Store& store, std::string_view query) {
   Rows rows;
-  appendFuture(rows, store);
+  appendFuture(rows, store.scheduled());
   rows.push_back({Kind::boundary, keyOf(Kind::boundary, {}, 0), nullptr, 0});
   const std::size_t before = rows.size();
   appendPast(rows, store.archive(), store.archivedIDsInOrder(query));

@@ -35,18 +35,18 @@ std::string ArchiveView::title(const TimelineRow& row) const {
   return {};
 }
 
-std::vector<MenuItem> ArchiveView::menu(const TimelineRow& row) {
+std::vector<MenuEntry> ArchiveView::menu(const TimelineRow& row) {
   const Uuid id = row.key;
   if (row.kind == Kind::futureTask) {
     return {{translated("Add note"), [this, id] { addNote(id); }},
             {translated("Move to today"), [this, id] { store_.bringForward(id); }},
             {},
-            {translated("Delete"), [this, id] { store_.removeScheduled(id); }, {}, true}};
+            {.title = translated("Delete"), .action = [this, id] { store_.removeScheduled(id); }, .destructive = true}};
   }
   if (row.kind == Kind::pastTask) {
     return {{translated("Bring back to today"), [this, id] { commands_.bringBackTargets(id); }},
             {},
-            {translated("Delete"), [this, id] { commands_.deleteTargets(id); }, {}, true}};
+            {.title = translated("Delete"), .action = [this, id] { commands_.deleteTargets(id); }, .destructive = true}};
   }
   return {};
 }
@@ -70,6 +70,9 @@ void ArchiveView::beginEdit(const Uuid& id) {
 }
 
 void ArchiveView::beginNoteEdit(const Uuid& id, std::size_t index) {
+  // A blank note goes when its editor closes, and the notes after it move up.
+  const bool oneGoes = editor_ && editor_->id == id && editor_->note && trimmed(editor_->draft).empty();
+  if (oneGoes && *editor_->note < index) --index;
   commit();
   const ScheduledItem* entry = find(id);
   if (!entry || index >= entry->item.notes.size() || !isShownWhole(entry->item.notes[index])) return;

@@ -22,7 +22,7 @@ struct TextRun {
   bool operator==(const TextRun&) const = default;
 };
 
-/// The runs of a text of any number of lines; they do not overlap.
+/// The runs of a text of any number of lines; where two overlap, the later one counts.
 std::vector<TextRun> composerRuns(std::u16string_view text, const EntryContext& context);
 
 }  // namespace brimle

@@ -53,19 +53,24 @@ void RowView::setText(const Uuid& id, std::string_view text) {
 }
 
 void RowView::endEdit(const Uuid& id) {
-  if (sel_.editingID() == id) sel_.setEditingID(std::nullopt);
   store_.perform([&] {
-    write(id, [](TodoItem& task) { task.text = std::string(trimmedLines(task.text)); });
-    const TodoItem* task = store_.find(id);
-    if (!task) return;
-    const std::string text = task->text;
-    if (const auto dated = extractDateToken(text, store_.entryContext())) {
-      write(id, [&](TodoItem& sent) { sent.text = std::string(dated->text); });
-      commands_.sendToDay(id, dayKey(dated->day));
-    } else if (text.empty()) {
-      commands_.deleteTargets(id);
-    }
+    settleText(id);
+    // Not before: an edit that ends takes the task out of the selection that a cleared text deletes.
+    if (sel_.editingID() == id) sel_.setEditingID(std::nullopt);
   });
+}
+
+void RowView::settleText(const Uuid& id) {
+  write(id, [](TodoItem& task) { task.text = std::string(trimmedLines(task.text)); });
+  const TodoItem* task = store_.find(id);
+  if (!task) return;
+  const std::string text = task->text;
+  if (const auto dated = extractDateToken(text, store_.entryContext())) {
+    write(id, [&](TodoItem& sent) { sent.text = std::string(dated->text); });
+    commands_.sendToDay(id, dayKey(dated->day));
+  } else if (text.empty()) {
+    commands_.deleteTargets(id);
+  }
 }
 
 void RowView::textFocusLost(const Uuid& id) {
@@ -73,6 +78,7 @@ void RowView::textFocusLost(const Uuid& id) {
 }
 
 void RowView::beginNoteEdit(const Uuid& id, std::int64_t index) {
+  closing_ = std::make_shared<int>();
   if (const auto open = sel_.noteEditingID()) {
     const std::int64_t openIndex = sel_.noteEditingIndex();
     if (cleanupNote(store_, *open, openIndex) && open == id && openIndex < index) --index;
@@ -102,8 +108,8 @@ void RowView::noteFocusLost(const Uuid& id, std::int64_t index) {
   };
   if (!isOpen() || sel_.hopping()) return;
   // On the next turn, since the keyboard may be on its way to another note of the same row.
-  time_.after(Seconds(0), [this, alive = std::weak_ptr(alive_), isOpen, id, index] {
-    if (!alive.expired() && isOpen()) endNoteEdit(id, index);
+  time_.after(Seconds(0), [this, due = std::weak_ptr(closing_), isOpen, id, index] {
+    if (!due.expired() && isOpen()) endNoteEdit(id, index);
   });
 }
 
@@ -127,10 +133,10 @@ void RowView::addNote(const Uuid& id) {
   beginNoteEdit(id, index);
 }
 
-std::vector<MenuItem> RowView::menu(const Uuid& id) {
+std::vector<MenuEntry> RowView::menu(const Uuid& id) {
   const TodoItem* task = store_.find(id);
   if (!task) return {};
-  std::vector<MenuItem> items = {
+  std::vector<MenuEntry> items = {
       {translated(task->done ? "Untick" : "Tick"), [this, id] { commands_.toggleTargets(id); }},
       {translated("Add note"), [this, id] { addNote(id); }},
       {translated(task->highlighted ? "Remove highlight" : "Highlight"),
@@ -141,11 +147,14 @@ std::vector<MenuItem> RowView::menu(const Uuid& id) {
       {translated("Repeat"), {}},
   };
   for (const auto& [choice, title] : kRepeatTitles) {
-    items.push_back({translated(title), [this, id, choice = choice] { setRepeatChoice(id, choice); },
-                     repeatChoiceOf(*task) == choice});
+    items.push_back({.title = translated(title),
+                     .action = [this, id, choice = choice] { setRepeatChoice(id, choice); },
+                     .on = repeatChoiceOf(*task) == choice});
   }
   items.push_back({});
-  items.push_back({translated("Delete"), [this, id] { commands_.deleteTargets(id); }, {}, true});
+  items.push_back({.title = translated("Delete"),
+                   .action = [this, id] { commands_.deleteTargets(id); },
+                   .destructive = true});
   return items;
 }
 

@@ -12,7 +12,7 @@
 #include "control/row_commands.h"
 #include "control/selection_model.h"
 #include "model/store.h"
-#include "views/menu_item.h"
+#include "platform/menu.h"
 
 namespace brimle {
 
@@ -31,7 +31,7 @@ class RowView {
   void beginEdit(const Uuid& id);
   void setText(const Uuid& id, std::string_view text);
   /// Closes the editor: the text is trimmed; one that ends in a date sends the task there, pinned; an empty
-  /// one deletes it.
+  /// one deletes it, with the selection it is in.
   void endEdit(const Uuid& id);
   /// The editor lost the keyboard.
   void textFocusLost(const Uuid& id);
@@ -52,18 +52,21 @@ class RowView {
   void setRepeatChoice(const Uuid& id, RepeatChoice choice);
   void addNote(const Uuid& id);
   /// The context menu of a row in the current language; empty where its task is gone.
-  std::vector<MenuItem> menu(const Uuid& id);
+  std::vector<MenuEntry> menu(const Uuid& id);
 
  private:
   /// Writes a changed copy of the task through the store; nothing where it is gone.
   template <class Change>
   void write(const Uuid& id, Change change);
+  /// What a text that was typed becomes: trimmed, sent to its day, or deleted.
+  void settleText(const Uuid& id);
 
   Store& store_;
   SelectionModel& sel_;
   Time& time_;
   RowCommands commands_{store_, sel_};
-  std::shared_ptr<int> alive_ = std::make_shared<int>();
+  /// Shared with the calls that will close a note; one that is opened meanwhile takes their place.
+  std::shared_ptr<int> closing_ = std::make_shared<int>();
 };
 
 }  // namespace brimle

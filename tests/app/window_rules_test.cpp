@@ -1,12 +1,8 @@
 #include "app/core/window_rules.h"
 
-#include <gtest/gtest.h>
+#include "app/app_fixture.h"
 
 namespace brimle {
-
-void PrintTo(const Rect& rect, std::ostream* out) {
-  *out << rect.width << "x" << rect.height << " at " << rect.x << "," << rect.y;
-}
 
 namespace {
 

@@ -10,15 +10,11 @@ Item {
 
     required property ArchiveScreen archive
 
-    ListView {
+    KeyboardList {
         id: list
-        anchors { fill: parent; leftMargin: 16; rightMargin: 16; bottomMargin: search.height + 20 }
-        clip: true
+        anchors { fill: parent; leftMargin: 16 - bleed; rightMargin: 16 - bleed; bottomMargin: search.height + 20 }
         model: page.archive.rows
-        boundsBehavior: Flickable.StopAtBounds
         cacheBuffer: 200
-        keyNavigationEnabled: false
-        activeFocusOnTab: true
 
         // A timeline shorter than the window is padded, so that the boundary can stand at the top.
         footer: Item { height: Math.max(0, list.height - 60) }
@@ -27,10 +23,22 @@ Item {
         Accessible.name: Texts.of["Archive"]
 
         delegate: TimelineRow {
-            width: ListView.view.width
+            x: list.bleed
+            width: ListView.view.width - 2 * list.bleed
             archive: page.archive
+            onStepped: (step) => list.visitScheduled(index, step)
         }
 
+        // Tab walks from the list over the scheduled tasks to the search.
+        Keys.onTabPressed: visitScheduled(-1, 1)
+
+        function visitScheduled(from, step) {
+            const row = page.archive.nextScheduled(from, step)
+            if (row < 0) return step > 0 ? search.takeKeyboard() : takeKeyboard()
+            showRow(row)
+            const item = itemAtIndex(row) as TimelineRow
+            if (item) item.takeKeyboard()
+        }
         function showBoundary() {
             positionViewAtIndex(page.archive.boundary, ListView.Beginning)
         }
@@ -49,7 +57,7 @@ Item {
     }
     FocusRing {
         target: list
-        reach: 2
+        reach: 2 - list.bleed
     }
     ScrollMark { flickable: list }
 
@@ -61,13 +69,16 @@ Item {
 
     Connections {
         target: page.archive
-        function onReleaseKeyboard() { list.forceActiveFocus() }
-        function onRowShown(row) { list.positionViewAtIndex(row, ListView.Contain) }
+        function onReleaseKeyboard() { list.takeKeyboard() }
+        function onRowShown(row) {
+            list.showRow(row)
+            list.takeKeyboard()
+        }
         function onMenuAsked(row) {
-            list.positionViewAtIndex(row, ListView.Contain)
+            list.showRow(row)
             const item = list.itemAtIndex(row) as TimelineRow
             if (item) page.archive.openMenu(item.key, item.mapToGlobal(21, item.height))
         }
     }
-    Component.onCompleted: list.forceActiveFocus()
+    Component.onCompleted: list.takeKeyboard()
 }

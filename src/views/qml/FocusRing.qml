@@ -7,7 +7,7 @@ Rectangle {
     property real reach: 3
 
     anchors { fill: target; margins: -reach }
-    visible: target.activeFocus && Theme.focusShown
+    visible: Theme.focusShown && Window.activeFocusItem === target
     color: "transparent"
     radius: 5
     border { width: 1.5; color: Theme.faded(Theme.primary, 0.55) }

@@ -20,9 +20,13 @@ Item {
     Accessible.role: Accessible.ListItem
     Accessible.name: text
 
-    activeFocusOnTab: true
+    /// Asks for the next scheduled task, or with -1 for the one before.
+    signal stepped(step: int)
+
     onActiveFocusChanged: archive.setFocusedKey(activeFocus ? key : "")
     Keys.onReturnPressed: archive.beginEdit(key)
+    Keys.onTabPressed: stepped(1)
+    Keys.onBacktabPressed: stepped(-1)
     Keys.onDeletePressed: archive.remove(key)
 
     FocusRing { target: row }

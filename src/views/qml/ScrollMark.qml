@@ -7,7 +7,7 @@ Rectangle {
 
     required property Flickable flickable
 
-    x: flickable.x + flickable.width + 8
+    x: parent.width - 8
     y: flickable.y + flickable.visibleArea.yPosition * flickable.height
     width: 3
     height: Math.max(16, flickable.visibleArea.heightRatio * flickable.height)

@@ -7,6 +7,8 @@ Rectangle {
 
     required property ArchiveScreen archive
 
+    function takeKeyboard() { input.forceActiveFocus(Qt.TabFocusReason) }
+
     implicitHeight: input.height + 16
     radius: 12
     color: Theme.faded(Theme.primary, 0.05)

@@ -17,6 +17,7 @@ Item {
     required property string repeats
     required property string link
     required property bool editing
+    required property bool selected
     required property bool hovered
 
     /// Where the first baseline of the text stands below the top of the dot.
@@ -78,6 +79,7 @@ Item {
             size: 11
             color: Theme.secondary
             label: line.link
+            activeFocusOnTab: line.selected
             onTriggered: line.today.openLink(line.link)
         }
         GlyphButton {

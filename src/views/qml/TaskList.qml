@@ -6,17 +6,13 @@ import Brimle
 // Ids of this file are read inside components of it, which Qt before 6.5 has no way to declare.
 // qmllint disable unqualified
 
-ListView {
+KeyboardList {
     id: list
 
     required property Today today
 
-    clip: true
     model: today.tasks
-    boundsBehavior: Flickable.StopAtBounds
     reuseItems: false
-    keyNavigationEnabled: false
-    activeFocusOnTab: true
     cacheBuffer: 400
 
     Accessible.role: Accessible.List
@@ -24,17 +20,18 @@ ListView {
 
     Connections {
         target: list.today
-        function onRowShown(row) { list.positionViewAtIndex(row, ListView.Contain) }
+        function onRowShown(row) { list.showRow(row) }
         function onMenuAsked(row) {
-            list.positionViewAtIndex(row, ListView.Contain)
+            list.showRow(row)
             const item = list.itemAtIndex(row) as TaskRow
             if (item) list.today.openMenu(item.taskId, item.mapToGlobal(33, item.height))
         }
-        function onReleaseKeyboard() { list.forceActiveFocus() }
+        function onReleaseKeyboard() { list.takeKeyboard() }
     }
 
     delegate: TaskRow {
-        width: ListView.view.width
+        x: list.bleed
+        width: ListView.view.width - 2 * list.bleed
         today: list.today
     }
 

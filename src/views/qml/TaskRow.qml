@@ -90,6 +90,7 @@ Item {
             repeats: row.repeats
             link: row.link
             editing: row.editing
+            selected: row.selected
             hovered: hover.hovered
         }
 

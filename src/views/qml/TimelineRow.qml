@@ -19,6 +19,11 @@ Item {
     required property int noteEditing
     required property int index
 
+    /// From a scheduled task that has the keyboard: to the next one, or with -1 to the one before.
+    signal stepped(step: int)
+
+    function takeKeyboard() { body.item?.forceActiveFocus() }
+
     implicitHeight: body.item?.implicitHeight ?? 0
 
     Loader {
@@ -81,6 +86,7 @@ Item {
             notes: row.notes
             editing: row.editing
             noteEditing: row.noteEditing
+            onStepped: (step) => row.stepped(step)
         }
     }
 }

@@ -34,13 +34,13 @@ Item {
 
         TaskList {
             id: tasks
-            anchors { fill: parent; leftMargin: 16; rightMargin: 16; bottomMargin: entry.height + 20 }
+            anchors { fill: parent; leftMargin: 16 - bleed; rightMargin: 16 - bleed; bottomMargin: entry.height + 20 }
             visible: !view.archive.showing
             today: view.today
         }
         FocusRing {
             target: tasks
-            reach: 2
+            reach: 2 - tasks.bleed
         }
         ScrollMark {
             flickable: tasks

@@ -140,6 +140,15 @@ int TimelineModel::rowOf(const Uuid& key) const {
   return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
 }
 
+int TimelineModel::nextScheduled(int row, int step) const {
+  for (row += step; row >= 0 && row < rowCount(); row += step) {
+    const auto kind = rows_[static_cast<std::size_t>(row)].kind;
+    if (kind == TimelineRow::Kind::futureTask) return row;
+    if (kind == TimelineRow::Kind::boundary) break;
+  }
+  return -1;
+}
+
 const TimelineRow* TimelineModel::find(const Uuid& key) const {
   const int row = rowOf(key);
   return row < 0 ? nullptr : &rows_[static_cast<std::size_t>(row)];

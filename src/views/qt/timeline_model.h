@@ -42,6 +42,8 @@ class TimelineModel : public QAbstractListModel {
   const TimelineRow* find(const Uuid& key) const;
   /// Where the row with this key stands, or -1.
   int rowOf(const Uuid& key) const;
+  /// The row of the next scheduled task below a row, or above with a step of -1; -1 where there is none.
+  int nextScheduled(int row, int step) const;
   int boundary() const { return static_cast<int>(boundaryRow(rows_)); }
 
  private:

@@ -1,0 +1,123 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDialog>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+
+#include "platform/desktop/qt_update_windows.h"
+
+namespace brimle {
+namespace {
+
+/// Stands for the browser.
+class Browser : public QObject {
+  Q_OBJECT
+
+ public:
+  Browser() { QDesktopServices::setUrlHandler("https", this, "open"); }
+  ~Browser() override { QDesktopServices::unsetUrlHandler("https"); }
+
+  QList<QUrl> opened;
+
+ public slots:
+  void open(const QUrl& url) { opened.append(url); }
+};
+
+const UpdateMessage kNew{"A <b>new</b> version",
+                         "1.2.0\n15 June 2026",
+                         "<img src='https://a.example'>\nFaster.",
+                         {{"Download", "https://a.example/1.2?x=%20"}, {"Later", ""}}};
+const UpdateMessage kFailed{"The update check failed", "No signature.", "", {{"OK", ""}}};
+
+class UpdateWindow : public testing::Test {
+ protected:
+  static QWidget* window() {
+    QWidgetList open;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+      if (widget->isVisible()) open.append(widget);
+    }
+    EXPECT_LE(open.size(), 1);
+    return open.value(0);
+  }
+
+  static void press(const QString& text) {
+    for (QPushButton* button : window()->findChildren<QPushButton*>()) {
+      if (button->text() == text) return QTest::mouseClick(button, Qt::LeftButton);
+    }
+    FAIL() << "no button " << text.toStdString();
+  }
+
+  QtUpdateWindows windows;
+  Browser browser;
+};
+
+TEST_F(UpdateWindow, SaysTheMessageAsPlainText) {
+  windows.show(kNew);
+  QStringList texts;
+  for (QLabel* label : window()->findChildren<QLabel*>()) {
+    if (label->textFormat() == Qt::PlainText) texts.append(label->text());
+  }
+  EXPECT_EQ(texts, QStringList({"A <b>new</b> version", "1.2.0\n15 June 2026"}));
+  EXPECT_EQ(window()->findChild<QPlainTextEdit*>()->toPlainText(), "<img src='https://a.example'>\nFaster.");
+  EXPECT_TRUE(window()->findChild<QPlainTextEdit*>()->isReadOnly());
+  EXPECT_FALSE(window()->isModal());
+
+  windows.show(kFailed);
+  EXPECT_EQ(window()->findChild<QPlainTextEdit*>(), nullptr);
+  EXPECT_TRUE(windows.isOpen());
+}
+
+TEST_F(UpdateWindow, OpensTheAddressAsItIsAndCloses) {
+  windows.show(kNew);
+  press("Download");
+  ASSERT_EQ(browser.opened.size(), 1);
+  EXPECT_EQ(browser.opened[0].toEncoded(), "https://a.example/1.2?x=%20");
+  EXPECT_FALSE(windows.isOpen());
+}
+
+TEST_F(UpdateWindow, StaysWhereNothingOpensTheAddress) {
+  QDesktopServices::setUrlHandler("https", &browser, "absent");
+  windows.show(kNew);
+  press("Download");
+  EXPECT_TRUE(windows.isOpen());
+}
+
+TEST_F(UpdateWindow, ClosesByItsOtherButtonAndByEscape) {
+  EXPECT_FALSE(windows.isOpen());
+  windows.show(kNew);
+  press("Later");
+  EXPECT_FALSE(windows.isOpen());
+  windows.show(kFailed);
+  QTest::keyClick(window(), Qt::Key_Escape);
+  EXPECT_FALSE(windows.isOpen());
+  EXPECT_TRUE(browser.opened.isEmpty());
+  windows.bringForward();
+  EXPECT_EQ(window(), nullptr);
+}
+
+TEST_F(UpdateWindow, TakesReturnAndSpaceAsItsFirstButton) {
+  windows.show(kNew);
+  ASSERT_NE(window()->focusWidget(), nullptr);
+  QTest::keyClick(window()->focusWidget(), Qt::Key_Return);
+  EXPECT_EQ(browser.opened.size(), 1);
+  windows.show(kNew);
+  QTest::keyClick(window()->focusWidget(), Qt::Key_Space);
+  EXPECT_EQ(browser.opened.size(), 2);
+}
+
+TEST_F(UpdateWindow, ComesBackWhenMinimised) {
+  windows.show(kFailed);
+  window()->showMinimized();
+  EXPECT_TRUE(windows.isOpen());
+  windows.bringForward();
+  EXPECT_FALSE(window()->isMinimized());
+}
+
+}  // namespace
+}  // namespace brimle
+
+#include "update_windows_test.moc"
