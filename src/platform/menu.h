@@ -15,6 +15,7 @@ struct MenuEntry {
   std::function<void()> action{};
   char key = 0;              ///< chooses it while Command is held; upper case asks for Shift too; 0 for none
   std::optional<bool> on{};  ///< its check mark; none where it never carries one
+  bool destructive = false;  ///< drawn as a warning
   std::vector<MenuEntry> items{};
 
   bool isSeparator() const { return title.empty(); }

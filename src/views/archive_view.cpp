@@ -35,18 +35,18 @@ std::string ArchiveView::title(const TimelineRow& row) const {
   return {};
 }
 
-std::vector<MenuItem> ArchiveView::menu(const TimelineRow& row) {
+std::vector<MenuEntry> ArchiveView::menu(const TimelineRow& row) {
   const Uuid id = row.key;
   if (row.kind == Kind::futureTask) {
     return {{translated("Add note"), [this, id] { addNote(id); }},
             {translated("Move to today"), [this, id] { store_.bringForward(id); }},
             {},
-            {translated("Delete"), [this, id] { store_.removeScheduled(id); }, {}, true}};
+            {.title = translated("Delete"), .action = [this, id] { store_.removeScheduled(id); }, .destructive = true}};
   }
   if (row.kind == Kind::pastTask) {
     return {{translated("Bring back to today"), [this, id] { commands_.bringBackTargets(id); }},
             {},
-            {translated("Delete"), [this, id] { commands_.deleteTargets(id); }, {}, true}};
+            {.title = translated("Delete"), .action = [this, id] { commands_.deleteTargets(id); }, .destructive = true}};
   }
   return {};
 }

@@ -16,7 +16,7 @@
 #include "model/store.h"
 #include "views/archive_timeline.h"
 #include "views/date_hint.h"
-#include "views/menu_item.h"
+#include "platform/menu.h"
 
 namespace brimle {
 
@@ -42,7 +42,7 @@ class ArchiveView {
   std::size_t matchCount() const { return store_.archivedIDsInOrder(ui_.archiveQuery()).size(); }
 
   /// The context menu of a scheduled task or of an archived entry.
-  std::vector<MenuItem> menu(const TimelineRow& row);
+  std::vector<MenuEntry> menu(const TimelineRow& row);
 
   /// "→ Sat, 20 Jun 2026" while the text holds a date token; else empty.
   std::string dateHint(std::string_view text) const { return brimle::dateHint(text, store_.entryContext()); }

@@ -133,10 +133,10 @@ void RowView::addNote(const Uuid& id) {
   beginNoteEdit(id, index);
 }
 
-std::vector<MenuItem> RowView::menu(const Uuid& id) {
+std::vector<MenuEntry> RowView::menu(const Uuid& id) {
   const TodoItem* task = store_.find(id);
   if (!task) return {};
-  std::vector<MenuItem> items = {
+  std::vector<MenuEntry> items = {
       {translated(task->done ? "Untick" : "Tick"), [this, id] { commands_.toggleTargets(id); }},
       {translated("Add note"), [this, id] { addNote(id); }},
       {translated(task->highlighted ? "Remove highlight" : "Highlight"),
@@ -147,11 +147,14 @@ std::vector<MenuItem> RowView::menu(const Uuid& id) {
       {translated("Repeat"), {}},
   };
   for (const auto& [choice, title] : kRepeatTitles) {
-    items.push_back({translated(title), [this, id, choice = choice] { setRepeatChoice(id, choice); },
-                     repeatChoiceOf(*task) == choice});
+    items.push_back({.title = translated(title),
+                     .action = [this, id, choice = choice] { setRepeatChoice(id, choice); },
+                     .on = repeatChoiceOf(*task) == choice});
   }
   items.push_back({});
-  items.push_back({translated("Delete"), [this, id] { commands_.deleteTargets(id); }, {}, true});
+  items.push_back({.title = translated("Delete"),
+                   .action = [this, id] { commands_.deleteTargets(id); },
+                   .destructive = true});
   return items;
 }
 

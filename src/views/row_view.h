@@ -12,7 +12,7 @@
 #include "control/row_commands.h"
 #include "control/selection_model.h"
 #include "model/store.h"
-#include "views/menu_item.h"
+#include "platform/menu.h"
 
 namespace brimle {
 
@@ -52,7 +52,7 @@ class RowView {
   void setRepeatChoice(const Uuid& id, RepeatChoice choice);
   void addNote(const Uuid& id);
   /// The context menu of a row in the current language; empty where its task is gone.
-  std::vector<MenuItem> menu(const Uuid& id);
+  std::vector<MenuEntry> menu(const Uuid& id);
 
  private:
   /// Writes a changed copy of the task through the store; nothing where it is gone.

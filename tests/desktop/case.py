@@ -51,7 +51,6 @@ class DesktopCase(unittest.TestCase):
         self.waitForFocus(ADD)
 
     def _end(self):
-        print("RC", self._program.poll())
         DESKTOP.end(self._program)
         self.menus.end()
         self._messages.seek(0)
@@ -84,6 +83,10 @@ class DesktopCase(unittest.TestCase):
 
     # Today's list.
 
+    def rows(self):
+        """The rows from the top down. The tree keeps them in the order in which they came."""
+        return sorted(self.window.all("row"), key=lambda row: row.box[1])
+
     def row(self, text):
         """The row of a task, when all rows have come to rest."""
         self.waitForRest()
@@ -95,7 +98,7 @@ class DesktopCase(unittest.TestCase):
 
         def atRest():
             nonlocal last
-            before, last = last, [row.box for row in self.window.all("row")]
+            before, last = last, [row.box for row in self.rows()]
             return last == before and self._stacked(last)
         self.until(atRest, lambda: f"the rows were at rest; they are at {last}")
 
@@ -109,7 +112,7 @@ class DesktopCase(unittest.TestCase):
 
     def selected(self):
         """The texts of the selected rows."""
-        return [row.name.split(", ")[0] for row in self.window.all("row") if "selected" in row.name.split(", ")]
+        return [row.name.split(", ")[0] for row in self.rows() if "selected" in row.name.split(", ")]
 
     def expectSelected(self, *texts):
         self.until(lambda: self.selected() == list(texts), lambda: f"{texts} were selected; {self.selected()} are")

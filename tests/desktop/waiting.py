@@ -5,7 +5,7 @@ import time
 
 from gi.repository import GLib
 
-DEADLINE = 5  # seconds; far more than anything takes
+DEADLINE = 20  # seconds; far more than anything takes
 POLL = 0.015  # seconds between two looks
 
 

@@ -17,9 +17,11 @@ MouseArea {
     drag.target: ghost
     drag.threshold: 8
 
-    // By assignment: the drag runs an event loop of its own, in which a binding would meet itself.
-    readonly property bool dragged: drag.active
-    onDraggedChanged: ghost.Drag.active = dragged
+    // No binding: the drag runs an event loop of its own, in which one would meet itself.
+    Connections {
+        target: gestures.drag
+        function onActiveChanged() { if (gestures.drag.active) ghost.Drag.active = true }
+    }
 
     // A row moves; what comes from another program stays there, too.
     function action(): int { return today.draggingId !== "" ? Qt.MoveAction : Qt.CopyAction }
@@ -43,7 +45,10 @@ MouseArea {
         Drag.mimeData: { "text/plain": gestures.text }
         Drag.imageSource: "qrc:/qt/qml/Brimle/symbols/nothing.svg"
         Drag.onDragStarted: gestures.today.beginDrag(gestures.taskId)
-        Drag.onDragFinished: gestures.today.endDrag()
+        Drag.onDragFinished: {
+            ghost.Drag.active = false
+            gestures.today.endDrag()
+        }
     }
 
     DropArea {

@@ -1,6 +1,5 @@
 #include "views/qt/context_menu.h"
 
-#include <QActionGroup>
 #include <QMenu>
 #include <QProxyStyle>
 #include <QStyleOptionMenuItem>
@@ -30,43 +29,46 @@ class MenuStyle : public QProxyStyle {
     }
     QProxyStyle::drawControl(element, &warning, painter, widget);
   }
-
-  /// Headings show their text in every style.
-  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                QStyleHintReturn* data) const override {
-    if (hint == SH_Menu_SupportsSections) return true;
-    return QProxyStyle::styleHint(hint, option, widget, data);
-  }
 };
 
-/// An ampersand in a title is a letter, not a mnemonic.
-QString plainTitle(const std::string& title) {
-  return toQt(title).replace(QLatin1Char('&'), QLatin1String("&&"));
+/// The title, in which an ampersand is a letter and not a mnemonic, and its key after a tab.
+QString label(const MenuEntry& item) {
+  QString text = toQt(item.title).replace(QLatin1Char('&'), QLatin1String("&&"));
+  if (item.key == 0) return text;
+  const QChar key = QLatin1Char(item.key);
+  const Qt::KeyboardModifiers held =
+      key.isUpper() ? Qt::ControlModifier | Qt::ShiftModifier : Qt::ControlModifier;
+  return text + QLatin1Char('\t') +
+         QKeySequence(held | Qt::Key(key.toUpper().unicode())).toString(QKeySequence::NativeText);
 }
 
-void addItem(QMenu* menu, QActionGroup* choice, MenuItem item) {
+void fill(QMenu* menu, const std::vector<MenuEntry>& items);
+
+void addItem(QMenu* menu, const MenuEntry& item) {
   if (item.isSeparator()) return void(menu->addSeparator());
-  if (item.isHeading()) return void(menu->addSection(plainTitle(item.title)));
-  QAction* action = menu->addAction(plainTitle(item.title));
-  action->setEnabled(item.enabled);
+  if (!item.items.empty()) return fill(menu->addMenu(label(item)), item.items);
+  QAction* action = menu->addAction(label(item));
+  action->setEnabled(item.action != nullptr);
   action->setProperty(kDestructive, item.destructive);
-  action->setCheckable(item.chosen.has_value());
-  action->setChecked(item.chosen.value_or(false));
-  if (item.chosen) choice->addAction(action);
-  QObject::connect(action, &QAction::triggered, action, std::move(item.action));
+  action->setCheckable(item.on.has_value());
+  action->setChecked(item.on.value_or(false));
+  if (item.action) QObject::connect(action, &QAction::triggered, action, item.action);
+}
+
+void fill(QMenu* menu, const std::vector<MenuEntry>& items) {
+  for (const MenuEntry& item : items) addItem(menu, item);
 }
 
 }  // namespace
 
-void popUpMenu(std::vector<MenuItem> items, QPoint place) {
+void popUpMenu(const std::vector<MenuEntry>& items, QPoint place) {
   if (items.empty()) return;
   auto* menu = new QMenu;
   menu->setAttribute(Qt::WA_DeleteOnClose);
   auto* style = new MenuStyle;
   style->setParent(menu);
   menu->setStyle(style);
-  auto* choice = new QActionGroup(menu);
-  for (MenuItem& item : items) addItem(menu, choice, std::move(item));
+  fill(menu, items);
   menu->popup(place);
 }
 

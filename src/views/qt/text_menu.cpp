@@ -35,15 +35,13 @@ void press(QQuickItem* field, QKeySequence::StandardKey key) {
   QCoreApplication::sendEvent(field->window(), &event);
 }
 
-MenuItem itemOf(const Row& row, QQuickItem* field) {
-  if (!*row.title) return {};
-  return {std::string(I18n::t(row.title)),
-          [field = QPointer(field), key = row.key] {
-            if (field) press(field, key);
-          },
-          {},
-          false,
-          tells(field->property(row.enabledBy))};
+MenuEntry entryOf(const Row& row, QQuickItem* field) {
+  MenuEntry entry{.title = *row.title ? std::string(I18n::t(row.title)) : ""};
+  if (!tells(field->property(row.enabledBy))) return entry;
+  entry.action = [field = QPointer(field), key = row.key] {
+    if (field) press(field, key);
+  };
+  return entry;
 }
 
 }  // namespace
@@ -75,9 +73,9 @@ bool TextMenu::openByKey(const QKeyEvent& key) {
 
 bool TextMenu::openAt(const QPointF& place) {
   field_->forceActiveFocus();
-  std::vector<MenuItem> items;
-  for (const Row& row : kRows) items.push_back(itemOf(row, field_));
-  popUpMenu(std::move(items), field_->mapToGlobal(place).toPoint());
+  std::vector<MenuEntry> items;
+  for (const Row& row : kRows) items.push_back(entryOf(row, field_));
+  popUpMenu(items, field_->mapToGlobal(place).toPoint());
   return true;
 }
 
