@@ -4,7 +4,8 @@ set(CMAKE_AUTOMOC ON)
 
 file(GLOB desktop_sources CONFIGURE_DEPENDS platform/desktop/qt_*.cpp)
 add_library(brimle_desktop STATIC ${desktop_sources})
-target_link_libraries(brimle_desktop PUBLIC brimle_posix Qt6::Widgets Qt6::Network Qt6::DBus)
+pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-keysyms)
+target_link_libraries(brimle_desktop PUBLIC brimle_posix Qt6::Widgets Qt6::Network Qt6::DBus PRIVATE PkgConfig::XCB)
 
 file(GLOB view_sources CONFIGURE_DEPENDS views/qt/*.cpp views/qt/*.h)
 file(GLOB qml_files RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} CONFIGURE_DEPENDS views/qml/*.qml)
