@@ -44,6 +44,14 @@ class Element:
     def _ask(self, method, arguments=None):
         return _call(self._owner, self._path, "org.a11y.atspi." + method, arguments)
 
+    def processId(self):
+        """Nothing where the program has ended."""
+        try:
+            return _call("org.freedesktop.DBus", "/", "org.freedesktop.DBus.GetConnectionUnixProcessID",
+                         GLib.Variant("(s)", (self._owner,)))
+        except GLib.Error:
+            return None
+
     def name(self):
         arguments = GLib.Variant("(ss)", ("org.a11y.atspi.Accessible", "Name"))
         return _call(self._owner, self._path, "org.freedesktop.DBus.Properties.Get", arguments)
@@ -69,11 +77,8 @@ class Element:
 
 def applicationOf(process):
     """The root of a program's tree; nothing while it has none."""
-    for application in Element(_REGISTRY, _ROOT).children():
-        arguments = GLib.Variant("(s)", (application._owner,))
-        if _call("org.freedesktop.DBus", "/", "org.freedesktop.DBus.GetConnectionUnixProcessID", arguments) == process.pid:
-            return application
-    return None
+    applications = Element(_REGISTRY, _ROOT).children()
+    return next((found for found in applications if found.processId() == process.pid), None)
 
 
 def watchShowing(appeared):

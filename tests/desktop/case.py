@@ -45,14 +45,14 @@ class DesktopCase(unittest.TestCase):
         self._messages = (DESKTOP.home / "messages").open("w+", encoding="utf-8")
         self._program = DESKTOP.start(PROGRAM, stderr=self._messages)
         self.addCleanup(self._end)
-        self.app = applicationOf(self._program)
         self.menus = MenuWatch()
+        self.addCleanup(self.menus.end)
+        self.app = self.until(lambda: applicationOf(self._program), "the program was on the accessibility bus")
         self.window = self.app.find("window", "Brimle")
         self.waitForFocus(ADD)
 
     def _end(self):
         DESKTOP.end(self._program)
-        self.menus.end()
         self._messages.seek(0)
         messages = self._messages.read()
         self._messages.close()
@@ -61,9 +61,11 @@ class DesktopCase(unittest.TestCase):
                 path.unlink()
         self.assertNotIn("qrc:", messages, "a view complained")
 
-    def until(self, condition, what):
+    def until(self, condition, what, meanwhile=lambda: None):
+        """Waits until a condition holds, doing something before every look at it where that is given."""
         def conditionWhileItRuns():
             self.assertIsNone(self._program.poll(), "the program ended")
+            meanwhile()
             return condition()
         try:
             return waitUntil(conditionWhileItRuns, what)
@@ -73,27 +75,34 @@ class DesktopCase(unittest.TestCase):
 
     # The day file.
 
-    def expectDay(self, **lists):
+    def expectDay(self, meanwhile=lambda: None, **lists):
         """Waits until these lists hold these tasks, and the others what they held at the last look."""
         self.day = replace(self.day, **lists)
-        self.until(lambda: self._read() == self.day, lambda: f"the day is\n{self.day}\nwhile it is\n{self._read()}")
+        self.until(lambda: self._read() == self.day, lambda: f"the day is\n{self.day}\nwhile it is\n{self._read()}",
+                   meanwhile)
 
     def _read(self):
         return day_file.decoded(self._file.read_text(encoding="utf-8"))
 
-    # Today's list.
+    # The rows of the list that is shown: today's, or the archive's.
 
     def rows(self):
-        """The rows from the top down. The tree keeps them in the order in which they came."""
-        return sorted(self.window.all("row"), key=lambda row: row.box[1])
+        """The rows in sight, from the top down. The tree keeps them in the order in which they came."""
+        _, top, _, height = self.window.find("list").box
+        boxes = [(row, row.box) for row in self.window.all("row")]
+        seen = [(box[1], row) for row, box in boxes if top - 1 <= box[1] and box[1] + box[3] <= top + height + 1]
+        return [row for _, row in sorted(seen, key=lambda placed: placed[0])]
 
     def row(self, text):
         """The row of a task, when all rows have come to rest."""
         self.waitForRest()
-        return self.window.find("row", lambda name: name == text or name.startswith(text + ", "))
+        found = self.until(lambda: [row for row in self.rows() if row.name.split(", ")[0] == text],
+                           lambda: f"there was a row {text!r}; there are {[row.name for row in self.rows()]}")
+        self.assertEqual(len(found), 1)
+        return found[0]
 
     def waitForRest(self):
-        """Until the rows stand one below the other from the top of their list, twice in succession."""
+        """Until no row moves from one look to the next, and none lies over another or leaves a gap that is to close."""
         last = None
 
         def atRest():
@@ -103,12 +112,18 @@ class DesktopCase(unittest.TestCase):
         self.until(atRest, lambda: f"the rows were at rest; they are at {last}")
 
     def _stacked(self, boxes):
-        _, top, _, _ = self.window.find("list").box
-        for _, y, _, height in boxes:
+        """Whether the rows of today's list stand one below the other from its top. The archive's never move alone."""
+        shown = self.window.find("list")
+        top = shown.box[1]
+        for _, y, _, height in boxes if shown.name == "Task list" else []:
             if abs(y - top) > 1:
                 return False
             top = y + height
         return True
+
+    def expectRows(self, *texts):
+        self.until(lambda: [row.name.split(", ")[0] for row in self.rows()] == list(texts),
+                   lambda: f"the rows were {texts}; they are {[row.name for row in self.rows()]}")
 
     def selected(self):
         """The texts of the selected rows."""

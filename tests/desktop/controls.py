@@ -64,8 +64,9 @@ class Control:
 
 
 def applicationOf(process):
-    """The controls of a program, once it is on the accessibility bus."""
-    return Control(waitUntil(lambda: accessibility.applicationOf(process), "the program was on the accessibility bus"))
+    """The controls of a program; nothing while it is not on the accessibility bus."""
+    element = accessibility.applicationOf(process)
+    return element and Control(element)
 
 
 class MenuWatch:

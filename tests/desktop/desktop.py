@@ -29,7 +29,7 @@ class Desktop:
         atexit.register(self._end)
         self._setEnvironment()
         os.environ["DISPLAY"] = ":" + self._startAndRead(
-            "Xvfb", "-screen", "0", SCREEN, "-nolisten", "tcp", "-displayfd", "{fd}")
+            "Xvfb", "-screen", "0", SCREEN, "-nolisten", "tcp", "-noreset", "-displayfd", "{fd}")
         self.start("openbox")
         os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._startAndRead(
             "dbus-daemon", "--session", "--nofork", "--print-address={fd}")

@@ -10,13 +10,19 @@ from controls import applicationOf
 from desktop import DESKTOP
 
 
+def trembling(point):
+    """A hand that holds something over a point is never quite still: a drag only hears of a place when it is moved."""
+    places = cycle([point, (point[0] + 3, point[1])])
+    return lambda: hands.moveTo(next(places))
+
+
 class DraggingRows(DesktopCase):
     def dragOver(self, end, **lists):
         """Goes on with a drag until the pointer is over the middle of a row, then waits until the day is this."""
         target = self.row(end).point()
         hands.glide(self.place, target)
         self.place = target
-        self.expectDay(**lists)
+        self.expectDay(trembling(target), **lists)
 
     def takeHold(self, text):
         self.place = self.row(text).point()
@@ -59,7 +65,7 @@ class DraggingText(DesktopCase):
         program = Path(__file__).with_name("text_window.py")
         process = DESKTOP.start(sys.executable, str(program), text, str(left + width + 40), str(top))
         self.addCleanup(DESKTOP.end, process)
-        self.other = applicationOf(process)
+        self.other = self.until(lambda: applicationOf(process), "the other program was on the accessibility bus")
         self.field = self.other.find("field")
 
     def title(self):
@@ -72,13 +78,7 @@ class DraggingText(DesktopCase):
         end = (self.field.point()[0], start[1])
         hands.takeHold(start)
         hands.glide(start, end)
-        places = cycle([end, (end[0] + 10, end[1])])
-
-        def welcome():
-            """A position is only reported when the one before was answered, so that two are one answer at least."""
-            hands.moveTo(next(places))
-            return self.title() == "Text, answered"
-        self.until(welcome, "the drag was welcome")
+        self.until(lambda: self.title() == "Text, answered", "the drag was welcome", trembling(end))
         hands.letGo()
         self.until(lambda: self.field.text == "milk", lambda: f"the text was dropped; there is {self.field.text!r}")
         self.expectDay()
@@ -92,7 +92,7 @@ class DraggingText(DesktopCase):
                 start = self.field.point(0.06, 0.06)
                 hands.takeHold(start)
                 hands.glide(start, place)
-                self.until(lambda: self.title() == "Text, welcome", "the drop was welcome")
+                self.until(lambda: self.title() == "Text, welcome", "the drop was welcome", trembling(place))
                 hands.letGo()
                 self.expectDay(today=today)
 

@@ -34,7 +34,7 @@ MainWindow::MainWindow(Today::Parts parts, Pasteboard& pasteboard)
       theme_(parts.ui),
       texts_(parts.ui),
       today_(parts),
-      archive_(parts.store, parts.sel, parts.ui, parts.archive),
+      archive_(parts.store, parts.sel, parts.ui, parts.archive, parts.todayFocusAdd),
       shortcuts_(engine_, parts.ui, parts.store.entryContext().region) {
   engine_.setInitialProperties({{QStringLiteral("today"), QVariant::fromValue(&today_)},
                                 {QStringLiteral("archive"), QVariant::fromValue(&archive_)}});
