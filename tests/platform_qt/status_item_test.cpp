@@ -129,6 +129,7 @@ TEST_F(StatusItemTest, IsLightOnAPanelThatIsAlwaysDark) {
                 {"GNOME-Classic:GNOME", false, kDarkInk},
                 {"KDE", false, kDarkInk},
                 {"KDE", true, kLightInk},
+                {"XFCE", false, kLightInk},
                 {"", true, kLightInk}};
   for (const auto& [desktop, looksDark, ink] : kCases) {
     qputenv("XDG_CURRENT_DESKTOP", desktop);
