@@ -2,35 +2,15 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <cstdlib>
-#include <filesystem>
-
 #include "operations.h"
 #include "platform/desktop/posix_files.h"
 #include "sample_data.h"
+#include "scratch_folder.h"
 #include "timing.h"
 #include "workplace.h"
 
 namespace brimle::bench {
 namespace {
-
-/// A new folder on the disk, removed with all that is in it.
-class ScratchFolder {
- public:
-  ScratchFolder() {
-    std::string name = BRIMLE_BENCH_FOLDER "/data-XXXXXX";
-    require(::mkdtemp(name.data()), "making a folder in " BRIMLE_BENCH_FOLDER);
-    path_ = name;
-  }
-  ~ScratchFolder() { std::filesystem::remove_all(path_); }
-  ScratchFolder(const ScratchFolder&) = delete;
-  ScratchFolder& operator=(const ScratchFolder&) = delete;
-
-  const Path& path() const { return path_; }
-
- private:
-  Path path_;
-};
 
 /// Counts the time spent in the system calls of a save.
 class TimedCalls : public FileCalls {

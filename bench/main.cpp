@@ -2,6 +2,8 @@
 // the same run where there is one to compare with, so that the table says the same on every machine.
 #include <benchmark/benchmark.h>
 
+#include <QApplication>
+#include <QQuickWindow>
 #include <cstdio>
 #include <optional>
 #include <set>
@@ -25,6 +27,9 @@ struct Quantity {
 constexpr Quantity kRatio{kRatioCounter, "x", 1};
 constexpr Quantity kTime{kSecondsCounter, " ms", 1e-3};
 constexpr Quantity kOwnTime{kOwnSecondsCounter, " ms", 1e-3};
+constexpr Quantity kFrames{kOwnSecondsCounter, " frames", 1.0 / 60};  ///< of a display with 60 a second
+constexpr Quantity kMemoryRatio{kMemoryRatioCounter, "x", 1};
+constexpr Quantity kWakeUps{kWakeUpsCounter, "", 1};
 constexpr Quantity kMemory{kBytesCounter, " MiB", 1024.0 * 1024.0};
 
 struct Row {
@@ -62,6 +67,18 @@ const Row kRows[] = {
     {"search, slowest query", kSearch, 10, kOwnTime, {}},
     {"search, slowest query", kSearch, 50, kOwnTime, 8},
     {"search, folding once", kPrepareSearch, 50, kTime, {}},
+    {"archive opens after a click", kOpenArchive, 10, kFrames, 3},
+    {"archive scrolls a page, 99%", kScroll, 10, kOwnTime, 25},
+    {"key in the entry field, 99%", kTypeTask, 10, kOwnTime, 33},
+    {"Down or Up in the list, 99%", kWalkList, 10, kOwnTime, 33},
+    {"key in the search, 99%", kTypeSearch, 10, kOwnTime, 33},
+    {"first frame / smallest window", kStartUp, 0, kRatio, 1.3},
+    {"first frame / smallest window", kStartUp, 10, kRatio, 1.6},
+    {"memory / smallest window", kStartUp, 0, kMemoryRatio, 1.3},
+    {"memory / smallest window", kStartUp, 10, kMemoryRatio, 1.6},
+    {"first frame", kStartUp, 10, kOwnTime, {}},
+    {"memory at rest", kStartUp, 10, kMemory, {}},
+    {"wake-ups in 20 seconds at rest", kIdle, 10, kWakeUps, 0},
 };
 
 /// Rows may share a benchmark; it is measured once.
@@ -101,7 +118,8 @@ void print(const Row& row, const Reporter& reporter) {
   const auto median = reporter.median(row.benchmark(), row.quantity.counter);
   if (!median) return;  // left out by a filter
   const double value = *median / row.quantity.perUnit;
-  const std::string size = std::to_string(row.years) + (row.years == 1 ? " year" : " years");
+  const std::string size =
+      row.years == 0 ? "empty" : std::to_string(row.years) + (row.years == 1 ? " year" : " years");
   const std::string goal = row.goal ? "<= " + shown(*row.goal, row.quantity, "%g") : "-";
   std::printf(kLine, row.label, size.c_str(), shown(value, row.quantity, "%.3f").c_str(), goal.c_str(),
               verdict(row, value));
@@ -113,6 +131,10 @@ void print(const Row& row, const Reporter& reporter) {
 int main(int argc, char** argv) {
   using namespace brimle::bench;
   if (!initialize(argc, argv)) return 2;
+  QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+  int none = 1;
+  const QApplication application(none, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
   registerBenchmarks();
   Reporter reporter;
   benchmark::RunSpecifiedBenchmarks(&reporter);

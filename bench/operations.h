@@ -11,8 +11,11 @@ namespace brimle::bench {
 
 inline constexpr char kRatioCounter[] = "ratio";
 inline constexpr char kBytesCounter[] = "bytes";
-/// Seconds an iteration, without the time inside the system calls.
+/// Seconds an iteration, without what is not the program's own work: the time inside the system calls of a
+/// save.
 inline constexpr char kOwnSecondsCounter[] = "own seconds";
+inline constexpr char kMemoryRatioCounter[] = "memory ratio";
+inline constexpr char kWakeUpsCounter[] = "wake-ups";
 
 struct Operation {
   const char* name;
@@ -37,5 +40,18 @@ extern const Operation kLoad;  ///< the day file's bytes to records, against a d
 // The archive's search (bench_search.cpp), once it is prepared; the slowest of several queries.
 extern const Operation kSearch;  ///< against finding the query in the same folded bytes; its own seconds too
 extern const Operation kPrepareSearch;  ///< folding all texts once; its real time counts
+
+// The real window, painted by the same renderer, on the display at hand (bench_window.cpp): from an event to
+// the end of the frame that shows what it did; the seconds of the slowest but one in a hundred, or of the
+// middle one.
+extern const Operation kOpenArchive;  ///< a click on the archive's button; the middle one
+extern const Operation kScroll;       ///< a page of the archive a frame, from end to end
+extern const Operation kTypeTask;     ///< a key in the entry field
+extern const Operation kWalkList;     ///< Down and Up in today's list
+extern const Operation kTypeSearch;   ///< a key in the archive's search
+
+// The program as a process (bench_program.cpp); no years mean empty lists.
+extern const Operation kStartUp;  ///< to its first frame, and its memory, against the smallest window's
+extern const Operation kIdle;     ///< how often anything wakes it in 20 seconds without a key or click
 
 }  // namespace brimle::bench

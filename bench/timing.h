@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <vector>
 
 #include "operations.h"
@@ -16,6 +17,14 @@ double secondsOf(Action action) {
   const auto start = std::chrono::steady_clock::now();
   action();
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+/// The least of at least one value that this share of them does not exceed.
+inline double quantile(std::vector<double> values, double share) {
+  const auto rank = static_cast<std::ptrdiff_t>(std::ceil(share * static_cast<double>(values.size())));
+  const auto at = values.begin() + std::max<std::ptrdiff_t>(rank - 1, 0);
+  std::nth_element(values.begin(), at, values.end());
+  return *at;
 }
 
 /// The middle one of at least one value; of an even number, the upper of the two.

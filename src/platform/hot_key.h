@@ -28,7 +28,9 @@ class HotKey {
 
  protected:
   void setKeyInForce(std::string key) {
-    if (std::exchange(keyInForce_, std::move(key)) != keyInForce_) changed_.notify();
+    if (key == keyInForce_) return;
+    keyInForce_ = std::move(key);
+    changed_.notify();
   }
 
  private:
