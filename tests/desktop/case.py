@@ -15,7 +15,7 @@ from day_file import Day
 from desktop import DESKTOP
 from waiting import waitUntil
 
-PROGRAM = os.environ.get("BRIMLE_PROGRAM", str(Path(__file__).parents[2] / "build/bin/brimle"))
+PROGRAM = os.environ.get("BRIMLE_PROGRAM", Path(__file__).parents[2] / "build/bin/brimle")
 PICTURES = Path(PROGRAM).parents[1] / "desktop-tests"
 ADD = "Add a task"
 EDIT = "Edit"
