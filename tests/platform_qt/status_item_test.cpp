@@ -71,6 +71,13 @@ TEST_F(StatusItemTest, AppearsOnceAPanelIsThereAndOnEachThatFollows) {
   EXPECT_EQ(panel.tooltip(), "4 tasks");
 }
 
+TEST_F(StatusItemTest, AppearsOnAPanelThatComesLater) {
+  install(item);
+  panel.settle();
+  panel.start();
+  panel.awaitRegistrations(1);
+}
+
 TEST_F(StatusItemTest, ShowsTheCountInItsIconAndTellsItInWords) {
   show();
   const struct {
