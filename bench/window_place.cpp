@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QTest>
+#include <QTimer>
 #include <functional>
 
 #include "sample_data.h"
@@ -15,13 +16,15 @@ using Clock = std::chrono::steady_clock;
 constexpr std::chrono::milliseconds kQuiet(12);
 constexpr std::chrono::seconds kMostWaiting(20);
 
-/// Handles events until `done`; false where that takes too long.
+/// Handles events until `done`, and looks again every millisecond; false where that takes too long.
 template <class Done>
 bool handleEventsUntil(Done done) {
+  QTimer look;
+  look.start(std::chrono::milliseconds(1));
   const auto limit = Clock::now() + kMostWaiting;
   while (!done()) {
     if (Clock::now() > limit) return false;
-    QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
   }
   return true;
 }

@@ -34,6 +34,8 @@ PanelRow rowOf(const QDBusArgument& argument) {
   QVariantMap properties;
   argument.beginStructure();
   argument >> row.id >> properties;
+  argument.beginArray();  // the rows of a submenu
+  argument.endArray();
   argument.endStructure();
   if (properties["type"] != "separator") row.label = properties["label"].toString().toStdString();
   row.enabled = properties.value("enabled", true).toBool();
@@ -139,12 +141,13 @@ QImage Panel::icon(int side) {
     pictures.endStructure();
     if (width == side && bytes.size() == 4 * width * height) found = imageOf(width, height, bytes);
   }
+  pictures.endArray();
   return found;
 }
 
 std::string Panel::tooltip() {
   const auto tooltip = property("ToolTip").value<QDBusArgument>();
-  QString iconName, title;
+  QString iconName, title, text;
   tooltip.beginStructure();
   tooltip >> iconName;
   tooltip.beginArray();  // its pictures
@@ -156,7 +159,8 @@ std::string Panel::tooltip() {
     tooltip.endStructure();
   }
   tooltip.endArray();
-  tooltip >> title;
+  tooltip >> title >> text;
+  tooltip.endStructure();
   return title.toStdString();
 }
 
@@ -178,6 +182,8 @@ std::vector<PanelRow> Panel::menuRows(bool willOpen) {
     layout >> row;
     rows.push_back(rowOf(row.variant().value<QDBusArgument>()));
   }
+  layout.endArray();
+  layout.endStructure();
   return rows;
 }
 

@@ -71,6 +71,13 @@ TEST_F(StatusItemTest, AppearsOnceAPanelIsThereAndOnEachThatFollows) {
   EXPECT_EQ(panel.tooltip(), "4 tasks");
 }
 
+TEST_F(StatusItemTest, AppearsOnAPanelThatComesLater) {
+  install(item);
+  panel.settle();
+  panel.start();
+  panel.awaitRegistrations(1);
+}
+
 TEST_F(StatusItemTest, ShowsTheCountInItsIconAndTellsItInWords) {
   show();
   const struct {
@@ -129,6 +136,7 @@ TEST_F(StatusItemTest, IsLightOnAPanelThatIsAlwaysDark) {
                 {"GNOME-Classic:GNOME", false, kDarkInk},
                 {"KDE", false, kDarkInk},
                 {"KDE", true, kLightInk},
+                {"XFCE", false, kLightInk},
                 {"", true, kLightInk}};
   for (const auto& [desktop, looksDark, ink] : kCases) {
     qputenv("XDG_CURRENT_DESKTOP", desktop);

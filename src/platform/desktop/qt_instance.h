@@ -16,8 +16,8 @@ class QtInstance : public QObject {
   Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 
  public:
-  /// What others on the bus can ask for; each is called with the activation token of whoever asks, empty where
-  /// there is none.
+  /// What others on the bus can ask for; each is called with the activation token of whoever asks, empty
+  /// where there is none.
   struct Requests {
     std::function<void(const std::string& token)> activate;
     std::function<void(const std::string& token)> newTask;  ///< the desktop file's action "new-task"

@@ -26,7 +26,9 @@ Item {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: [taskText].concat(states()).join(", ")
+    Accessible.selectable: true
     Accessible.selected: selected
+    Accessible.onPressAction: today.select(taskId, 0)
 
     function states(): list<string> {
         return [done ? Texts.of["ticked"] : "", pinned ? Texts.of["pinned"] : "",
