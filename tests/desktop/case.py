@@ -3,6 +3,7 @@ controls and the clipboard.
 """
 import datetime
 import os
+import shutil
 import subprocess
 import unittest
 from dataclasses import replace
@@ -56,9 +57,9 @@ class DesktopCase(unittest.TestCase):
         self._messages.seek(0)
         messages = self._messages.read()
         self._messages.close()
-        for path in self._folder.rglob("*"):
-            if path.is_file():
-                path.unlink()
+        for variable in ("XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME"):
+            for folder in Path(os.environ[variable]).glob("[Bb]rimle"):
+                shutil.rmtree(folder)
         self.assertNotIn("qrc:", messages, "a view complained")
 
     def until(self, condition, what, meanwhile=lambda: None):
@@ -134,12 +135,12 @@ class DesktopCase(unittest.TestCase):
 
     # The keyboard.
 
-    def waitForFocus(self, name, text=None):
-        """The field of this name, with this text where one is given, as soon as it has the keyboard."""
+    def waitForFocus(self, name, text=None, role="field"):
+        """Until the control of this name has the keyboard and, where it is given, holds this text."""
         def focused():
-            fields = [field for field in self.window.all("field", name) if field.focused]
-            return fields[0] if fields and text in (None, fields[0].text) else None
-        return self.until(focused, f"the field {name!r} had the keyboard" + ("" if text is None else f" and held {text!r}"))
+            controls = [control for control in self.window.all(role, name) if control.focused]
+            return controls and (text is None or controls[0].text == text)
+        self.until(focused, f"the {role} {name!r} had the keyboard" + ("" if text is None else f" and held {text!r}"))
 
     def waitUntilClosed(self, name):
         self.until(lambda: not self.window.all("field", name), f"the field {name!r} was closed")
@@ -161,7 +162,14 @@ class DesktopCase(unittest.TestCase):
     def choose(self, row, item):
         """Opens the context menu of a row and clicks an item of it."""
         hands.rightClick(row.point())
-        hands.click(self.menus.menu().find("menu item", item).point())
+        hands.click(self.menus.item(item).point())
+        self.menus.waitUntilClosed()
+
+    def chooseFromMainMenu(self, *path):
+        """Opens the program's menu and clicks an item of it, of its submenu, and so on."""
+        hands.click(self.window.find("button", "Menu").point())
+        for item in path:
+            hands.click(self.menus.item(item).point())
         self.menus.waitUntilClosed()
 
     def copied(self):
@@ -170,5 +178,6 @@ class DesktopCase(unittest.TestCase):
         return answer.stdout.decode()
 
     def putOnClipboard(self, text):
-        subprocess.run(["xclip", "-selection", "clipboard", "-in"], input=text.encode(), check=True, timeout=30)
+        subprocess.run(["xclip", "-selection", "clipboard", "-in"], input=text.encode(), check=True, timeout=30,
+                       stderr=DESKTOP.log)
         self.until(lambda: self.copied() == text, "the text was on the clipboard")
