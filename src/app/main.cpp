@@ -14,6 +14,7 @@
 #include "model/data_folder.h"
 #include "model/store.h"
 #include "platform/build_settings.h"
+#include "platform/desktop/posix_bus_probe.h"
 #include "platform/desktop/posix_files.h"
 #include "platform/desktop/posix_folder_lock.h"
 #include "platform/desktop/qt_desktop.h"
@@ -58,6 +59,13 @@ struct Folders {
   Path state = baseDirectory("XDG_STATE_HOME", ".local/state");
 };
 
+/// A session bus that hangs would keep the window away for minutes: it is done without. Qt reads the variable
+/// when it first wants the bus.
+void passOverHangingBus() {
+  constexpr std::chrono::seconds kPatience(2);
+  if (busHangs(sessionBusAddresses(), kPatience)) ::setenv("DBUS_SESSION_BUS_ADDRESS", "disabled:", 1);
+}
+
 /// What a second launch does: the first instance comes forward. The process's exit status.
 int handOver() {
   if (activateRunningInstance()) return 0;
@@ -66,6 +74,7 @@ int handOver() {
 }
 
 int run(int argc, char** argv) {
+  passOverHangingBus();
   const Folders folders;
   const SystemLocale locale = systemLocale(environmentVariable);
   PosixFiles files;

@@ -166,6 +166,33 @@ TEST_F(MainWindowTest, TicksATaskByItsDotAndSweepsItAfterAPause) {
   EXPECT_EQ(state(), "A |  |  | 15:B+");
 }
 
+TEST_F(MainWindowTest, SlidesASweptRowOut) {
+  main->theme().setReduceMotion(false);
+  QQuickItem* dot = items(QAccessible::CheckBox, 2).at(1);
+  const auto place = [&] { return dot->mapToScene({}).x(); };
+  const double before = place();
+  click(dot);
+  time.advance(Seconds(0.9));
+  EXPECT_LT(place(), before + 600);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return place() == before + 600; }));
+}
+
+TEST_F(MainWindowTest, DarkensAWordWhileThePointerIsOverIt) {
+  const auto buttons = items(QAccessible::Button, 4);
+  const auto word =
+      std::ranges::find_if(buttons, [](auto* item) { return item->property("text") == "Archive"; });
+  ASSERT_NE(word, buttons.end());
+  const auto colour = [&] { return (*word)->property("color").value<QColor>().rgba(); };
+  const QPoint over = (*word)->mapToScene({4, 4}).toPoint();
+  const QPoint beside = over + QPoint(0, 100);
+  const Theme& theme = main->theme();
+  QTest::mouseMove(window, over);
+  EXPECT_EQ(colour(), theme.primary().rgba());
+  QTest::mouseClick(window, Qt::LeftButton, {}, over);
+  QTest::mouseMove(window, beside);
+  EXPECT_EQ(colour(), theme.secondary().rgba());
+}
+
 TEST_F(MainWindowTest, UndoesTypingFirstAndThenWhatWasDone) {
   EXPECT_EQ(after("C Return D Ctrl+Z"), "A B c' []");
   EXPECT_EQ(after("Ctrl+Shift+Z"), "A B c' [d]");
