@@ -53,6 +53,7 @@ class DesktopCase(unittest.TestCase):
         self.waitForFocus(ADD)
 
     def _end(self):
+        hands.letGo()  # where a test failed in the middle of a drag
         DESKTOP.end(self._program)
         self._messages.seek(0)
         messages = self._messages.read()

@@ -31,10 +31,12 @@ class Desktop:
         self._setEnvironment()
         os.environ["DISPLAY"] = ":" + self._startAndRead(
             "Xvfb", "-screen", "0", SCREEN, "-nolisten", "tcp", "-noreset", "-displayfd", "{fd}")
-        self.start("openbox")
+        # It says that it manages windows a good while before it does; the command is run when it really does.
+        managing = self.home / "managing"
+        self.start("openbox", "--startup", f"touch {managing}")
         os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._startAndRead(
             "dbus-daemon", "--session", "--nofork", "--print-address={fd}")
-        waitUntil(self._managed, "the window manager was ready")
+        waitUntil(managing.exists, "the window manager was ready")
 
     def start(self, *command, **options):
         """A program on this desktop; its messages go to the log unless `options`, those of Popen, say otherwise."""
@@ -74,11 +76,6 @@ class Desktop:
         os.close(writeEnd)
         with os.fdopen(readEnd) as pipe:
             return pipe.readline().strip()
-
-    @staticmethod
-    def _managed():
-        answer = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True, text=True, check=False)
-        return "window id" in answer.stdout
 
     def _end(self):
         for process in reversed(self._started[:]):
