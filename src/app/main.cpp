@@ -123,7 +123,7 @@ int run(int argc, char** argv) {
   QtInstance instance({.activate = reopen, .newTask = [&](const std::string& token) {
                          if (delegate) delegate->focusQuickAdd(token);
                        }});
-  const bool reachable = instance.announce();
+  instance.announce();
   QtNotificationCenter notifications(time, files, folders.state / "brimle", reopen);
 
   Store store({time, files, desktop, notifications}, regionOf(locale.region), dataFolder);
@@ -143,8 +143,8 @@ int run(int argc, char** argv) {
                      .shown = [](QWindow& shown) { showOnAllWorkspaces(shown); },
                      // A window that nobody can ask for again must not be closed into nowhere.
                      .closed =
-                         [reachable] {
-                           if (!reachable) QCoreApplication::quit();
+                         [&instance] {
+                           if (!instance.isReachable()) QCoreApplication::quit();
                          }});
   QObject::connect(&application, &QApplication::applicationStateChanged, &application, [&](auto state) {
     if (state == Qt::ApplicationActive) app.becameActive();

@@ -16,8 +16,8 @@ class QtInstance : public QObject {
   Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 
  public:
-  /// What others on the bus can ask for; each is called with the activation token of whoever asks, empty where
-  /// there is none.
+  /// What others on the bus can ask for; each is called with the activation token of whoever asks, empty
+  /// where there is none.
   struct Requests {
     std::function<void(const std::string& token)> activate;
     std::function<void(const std::string& token)> newTask;  ///< the desktop file's action "new-task"
@@ -25,9 +25,10 @@ class QtInstance : public QObject {
 
   explicit QtInstance(Requests requests);
 
-  /// Takes the application's name on the session bus, without waiting for the answer. False where there is no
-  /// bus.
-  bool announce();
+  /// Takes the application's name on the session bus, without waiting for the answer.
+  void announce();
+  /// Whether others can ask for this instance now: the bus is there, and has given it the name.
+  bool isReachable() const;
 
  public slots:
   void Activate(const QVariantMap& platformData);
@@ -36,6 +37,7 @@ class QtInstance : public QObject {
 
  private:
   const Requests requests_;
+  bool hasName_ = false;
 };
 
 /// Asks the instance that is running to come forward, waiting a moment for one that is only starting. False
