@@ -68,3 +68,10 @@ def glide(start, end):
     for step in range(1, steps + 1):
         words += ["mousemove", *(round(a + (b - a) * step / steps) for a, b in zip(start, end))]
     _xdotool(*words)
+
+
+def keyboardOwner():
+    """The process whose window has the keyboard; nothing where no window has it."""
+    answer = subprocess.run(["xdotool", "getwindowfocus", "getwindowpid"], capture_output=True, text=True, check=False,
+                            timeout=30)
+    return int(answer.stdout) if answer.returncode == 0 and answer.stdout.strip() else None
