@@ -2,7 +2,9 @@
 #include <QApplication>
 #include <QIcon>
 #include <QQuickWindow>
+#include <QScreen>
 #include <QTimer>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -149,8 +151,13 @@ int run(int argc, char** argv) {
   QObject::connect(&application, &QApplication::applicationStateChanged, &application, [&](auto state) {
     if (state == Qt::ApplicationActive) app.becameActive();
   });
-  QObject::connect(&application, &QApplication::screenRemoved, &application,
-                   [&] { QTimer::singleShot(0, &application, [&] { app.screensChanged(); }); });
+  const auto screensChanged = [&] { QTimer::singleShot(0, &application, [&] { app.screensChanged(); }); };
+  const auto watchScreen = [&](QScreen* screen) {
+    QObject::connect(screen, &QScreen::availableGeometryChanged, &application, screensChanged);
+  };
+  std::ranges::for_each(QApplication::screens(), watchScreen);
+  QObject::connect(&application, &QApplication::screenAdded, &application, watchScreen);
+  QObject::connect(&application, &QApplication::screenRemoved, &application, screensChanged);
   QObject::connect(&application, &QApplication::aboutToQuit, &application, [&] { app.willTerminate(); });
   const auto tellHotKey = [&] { window.shortcuts().setHotKey(hotKey->keyInForce()); };
   const Subscription hotKeyTold = hotKey->observe(tellHotKey);

@@ -8,7 +8,7 @@ from pathlib import Path
 from session import Session
 from waiting import waitUntil
 
-SCREEN = "1280x800x24"
+WIDTH, HEIGHT = 1280, 800  # of the screen, in pixels
 
 
 class Desktop(Session):
@@ -22,7 +22,7 @@ class Desktop(Session):
     def startServer(self):
         """Starts an X server; its process and its display."""
         server, number = self.startAndRead(
-            "Xvfb", "-screen", "0", SCREEN, "-nolisten", "tcp", "-noreset", "-displayfd", "{fd}")
+            "Xvfb", "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-nolisten", "tcp", "-noreset", "-displayfd", "{fd}")
         return server, ":" + number
 
     def picture(self, path):
