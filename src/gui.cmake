@@ -4,7 +4,8 @@ set(CMAKE_AUTOMOC ON)
 
 file(GLOB desktop_sources CONFIGURE_DEPENDS platform/desktop/qt_*.cpp)
 add_library(brimle_desktop STATIC ${desktop_sources})
-target_link_libraries(brimle_desktop PUBLIC brimle_posix Qt6::Widgets Qt6::Network Qt6::DBus)
+pkg_check_modules(XCB REQUIRED IMPORTED_TARGET GLOBAL xcb xcb-keysyms)
+target_link_libraries(brimle_desktop PUBLIC brimle_posix Qt6::Widgets Qt6::Network Qt6::DBus PRIVATE PkgConfig::XCB)
 
 file(GLOB view_sources CONFIGURE_DEPENDS views/qt/*.cpp views/qt/*.h)
 file(GLOB qml_files RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} CONFIGURE_DEPENDS views/qml/*.qml)
@@ -18,6 +19,9 @@ foreach(file IN LISTS symbols)
   set_source_files_properties(${file} PROPERTIES QT_RESOURCE_ALIAS symbols/${name})
 endforeach()
 
+set(icon ${CMAKE_SOURCE_DIR}/data/icons/org.brimle.Brimle.svg)
+set_source_files_properties(${icon} PROPERTIES QT_RESOURCE_ALIAS org.brimle.Brimle.svg)
+
 qt_add_library(brimle_views STATIC)
 qt_add_qml_module(brimle_views
   URI Brimle
@@ -27,11 +31,11 @@ qt_add_qml_module(brimle_views
   DEPENDENCIES QtQuick QtQml.Models
   SOURCES ${view_sources}
   QML_FILES ${qml_files}
-  RESOURCES ${symbols})
+  RESOURCES ${symbols} ${icon})
 target_link_libraries(brimle_views PUBLIC brimle_core Qt6::Quick Qt6::Svg Qt6::Widgets)
 set_target_properties(brimle_views PROPERTIES BRIMLE_HAS_GENERATED_CODE ON)
 # The generated type registration includes headers by their bare names.
 target_include_directories(brimle_views PRIVATE views/qt)
 
-add_executable(brimle app/main.cpp)
+add_executable(brimle app/main.cpp app/qt_application.cpp)
 target_link_libraries(brimle PRIVATE brimle_desktop brimle_views brimle_viewsplugin)

@@ -1,29 +1,40 @@
 // The program: finds its folders, makes sure it is alone on its data, puts the parts together, runs.
 #include <QApplication>
-#include <QPalette>
+#include <QIcon>
 #include <QQuickWindow>
+#include <QTimer>
 #include <cstdio>
 #include <cstdlib>
-#include <functional>
-#include <utility>
+#include <memory>
 
-#include "app/core/window_rules.h"
+#include "app/core/app_delegate.h"
+#include "app/qt_application.h"
 #include "i18n/i18n.h"
 #include "i18n/region.h"
 #include "model/data_folder.h"
 #include "model/store.h"
+#include "platform/build_settings.h"
+#include "platform/desktop/posix_bus_probe.h"
 #include "platform/desktop/posix_files.h"
 #include "platform/desktop/posix_folder_lock.h"
 #include "platform/desktop/qt_desktop.h"
+#include "platform/desktop/qt_feed_source.h"
+#include "platform/desktop/qt_hot_key.h"
 #include "platform/desktop/qt_instance.h"
+#include "platform/desktop/qt_link_opener.h"
+#include "platform/desktop/qt_login_item.h"
 #include "platform/desktop/qt_notification_center.h"
 #include "platform/desktop/qt_pasteboard.h"
 #include "platform/desktop/qt_preferences_store.h"
 #include "platform/desktop/qt_settings_portal.h"
+#include "platform/desktop/qt_status_item.h"
 #include "platform/desktop/qt_time.h"
+#include "platform/desktop/qt_update_windows.h"
+#include "platform/desktop/qt_workspaces.h"
 #include "platform/system_locale.h"
 #include "prefs/migration.h"
 #include "prefs/ui_state.h"
+#include "updates/feed_update_controller.h"
 #include "views/content_view.h"
 #include "views/qt/main_window.h"
 
@@ -48,6 +59,13 @@ struct Folders {
   Path state = baseDirectory("XDG_STATE_HOME", ".local/state");
 };
 
+/// A session bus that hangs would keep the window away for minutes: it is done without. Qt reads the variable
+/// when it first wants the bus.
+void passOverHangingBus() {
+  constexpr std::chrono::seconds kPatience(2);
+  if (busHangs(sessionBusAddresses(), kPatience)) ::setenv("DBUS_SESSION_BUS_ADDRESS", "disabled:", 1);
+}
+
 /// What a second launch does: the first instance comes forward. The process's exit status.
 int handOver() {
   if (activateRunningInstance()) return 0;
@@ -55,13 +73,8 @@ int handOver() {
   return 1;
 }
 
-/// The appearance that is forced by the setting, else the desktop's.
-Appearance appearanceOf(const std::optional<std::string>& setting, bool desktopIsDark) {
-  const bool dark = setting == "dark" || (setting != "light" && desktopIsDark);
-  return dark ? Appearance::dark : Appearance::light;
-}
-
 int run(int argc, char** argv) {
+  passOverHangingBus();
   const Folders folders;
   const SystemLocale locale = systemLocale(environmentVariable);
   PosixFiles files;
@@ -81,21 +94,37 @@ int run(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setDesktopFileName(QStringLiteral("org.brimle.Brimle"));
   QApplication::setQuitOnLastWindowClosed(false);
-  // For a desktop that tells no preference: what its own colours suggest, before ours replace them.
+
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/qt/qml/Brimle/org.brimle.Brimle.svg")));
+
+  const BuildSettings build = buildSettings();
+  QApplication::setApplicationName(QStringLiteral("Brimle"));
+  QApplication::setApplicationVersion(QString::fromStdString(build.version.string()));
+  // What the desktop's own colours suggest, before ours replace them.
   const bool desktopLooksDark = QApplication::palette().window().color().lightness() < 128;
 
   QtTime time;
   QtSettingsPortal settings;
   QtDesktop desktop(settings);
   QtPasteboard pasteboard;
-  // Whoever asks the program to come forward also asks which day it is.
-  std::function<void(const QByteArray&)> comeForward;
-  const auto asked = [&comeForward](const QByteArray& token) {
-    if (comeForward) comeForward(token);
+  QtLinkOpener links;
+  QtStatusItem status(settings, desktopLooksDark);
+  const std::unique_ptr<HotKey> hotKey = hotKeyOfDesktop(preferences);
+  QtLoginItem loginItem(files);
+  QtFeedSource feed;
+  QtUpdateWindows updateWindows;
+  FeedUpdateController updates(build, feed, updateWindows);
+
+  // Others can call before the program that answers them is put together.
+  AppDelegate* delegate = nullptr;
+  const auto reopen = [&](const std::string& token) {
+    if (delegate) delegate->reopen(token);
   };
-  QtInstance instance(asked);
+  QtInstance instance({.activate = reopen, .newTask = [&](const std::string& token) {
+                         if (delegate) delegate->focusQuickAdd(token);
+                       }});
   const bool reachable = instance.announce();
-  QtNotificationCenter notifications(time, files, folders.state / "brimle", asked);
+  QtNotificationCenter notifications(time, files, folders.state / "brimle", reopen);
 
   Store store({time, files, desktop, notifications}, regionOf(locale.region), dataFolder);
   UIState ui(preferences, locale.preferredLanguages);
@@ -103,39 +132,31 @@ int run(int argc, char** argv) {
   Signal<> todayFocusAdd;
   ContentView content(store, time);
   ArchiveView archive(store, sel, ui, time);
-  MainWindow mainWindow({store, content, archive, ui, sel, time, todayFocusAdd}, pasteboard);
-  comeForward = [&](const QByteArray& token) {
-    store.rolloverIfNeeded();
-    mainWindow.bringForward(token);
-  };
+  MainWindow window({store, content, archive, ui, sel, time, todayFocusAdd}, pasteboard);
+  QtApplication desktopApplication(window.theme(), settings, desktopLooksDark);
+  AppDelegate app({time, desktop, preferences, pasteboard, notifications, desktopApplication, window,
+                   window.menus(), status, *hotKey, loginItem, updates, window.shortcuts(), links},
+                  store, ui, todayFocusAdd, build.supportAddress);
 
-  double expandedHeight = kRegularSize.height;
-  bool isCompactNow = false;
-  const Subscription folding = ui.observe([&] {
-    if (std::exchange(isCompactNow, ui.compact()) == ui.compact()) return;
-    const Rect frame = mainWindow.frame();
-    if (isCompactNow) expandedHeight = frame.height;
-    mainWindow.setFrame(constrainToScreen(isCompactNow ? folded(frame) : unfolded(frame, expandedHeight),
-                                          mainWindow.visibleScreen()),
-                        true);
-  });
-
-  const auto applyAppearance = [&] {
-    mainWindow.theme().setAppearance(
-        appearanceOf(preferences.string("appearance"), settings.dark().value_or(desktopLooksDark)));
-    mainWindow.theme().setHighContrast(settings.highContrast());
-    mainWindow.theme().setReduceMotion(settings.reduceMotion());
-    mainWindow.theme().setTextScale(settings.textScale());
-  };
-  const Subscription following = settings.observe(applyAppearance);
-  applyAppearance();
-  // A window that nobody can ask for again must not be closed into nowhere.
-  if (!reachable) mainWindow.onClose([] { QCoreApplication::quit(); });
+  window.setReports({.key = [&](const KeyPress& key) { return app.performKeyEquivalent(key); },
+                     .frameChanged = [&] { app.windowFrameChanged(); },
+                     .shown = [](QWindow& shown) { showOnAllWorkspaces(shown); },
+                     // A window that nobody can ask for again must not be closed into nowhere.
+                     .closed =
+                         [reachable] {
+                           if (!reachable) QCoreApplication::quit();
+                         }});
   QObject::connect(&application, &QApplication::applicationStateChanged, &application, [&](auto state) {
-    if (state == Qt::ApplicationActive) store.rolloverIfNeeded();
+    if (state == Qt::ApplicationActive) app.becameActive();
   });
-  store.resyncArrivalNotifications();
-  mainWindow.bringForward();
+  QObject::connect(&application, &QApplication::screenRemoved, &application,
+                   [&] { QTimer::singleShot(0, &application, [&] { app.screensChanged(); }); });
+  QObject::connect(&application, &QApplication::aboutToQuit, &application, [&] { app.willTerminate(); });
+  const auto tellHotKey = [&] { window.shortcuts().setHotKey(hotKey->keyInForce()); };
+  const Subscription hotKeyTold = hotKey->observe(tellHotKey);
+  tellHotKey();
+  delegate = &app;
+  QTimer::singleShot(0, &application, [&] { app.finishedLaunching(); });
   return QApplication::exec();
 }
 

@@ -41,12 +41,16 @@ std::vector<MenuEntry> ArchiveView::menu(const TimelineRow& row) {
     return {{translated("Add note"), [this, id] { addNote(id); }},
             {translated("Move to today"), [this, id] { store_.bringForward(id); }},
             {},
-            {.title = translated("Delete"), .action = [this, id] { store_.removeScheduled(id); }, .destructive = true}};
+            {.title = translated("Delete"),
+             .action = [this, id] { store_.removeScheduled(id); },
+             .destructive = true}};
   }
   if (row.kind == Kind::pastTask) {
     return {{translated("Bring back to today"), [this, id] { commands_.bringBackTargets(id); }},
             {},
-            {.title = translated("Delete"), .action = [this, id] { commands_.deleteTargets(id); }, .destructive = true}};
+            {.title = translated("Delete"),
+             .action = [this, id] { commands_.deleteTargets(id); },
+             .destructive = true}};
   }
   return {};
 }

@@ -15,12 +15,14 @@ struct RowText {
 /// Stands in the keys column for what is not the same everywhere.
 constexpr std::string_view kDateExample = "date example";
 constexpr std::string_view kSpace = "Space";
+/// What the card calls the key that works from everywhere, whichever key stands for it here.
+constexpr std::string_view kHotKey = "⌥⌘T";
 
 constexpr RowText kAdding[] = {
     {"⏎", "Add a task"},
     {"⇧⏎", "New line"},
     {"⌥⏎", "Move to tomorrow"},
-    {"⌥⌘T", "Quick add from anywhere"},
+    {kHotKey, "Quick add from anywhere"},
 };
 constexpr RowText kMarkers[] = {
     {"// …", "Add note"},         {"// … // …", "Another note"},
@@ -50,13 +52,14 @@ std::string keysOf(const RowText& row, const Region& region) {
 
 }  // namespace
 
-std::vector<ShortcutsSection> shortcutsCard(const Region& region) {
+std::vector<ShortcutsSection> shortcutsCard(const Region& region, std::string_view hotKey) {
   std::vector<ShortcutsSection> card;
   for (const SectionText& section : kSections) {
     auto& shown = card.emplace_back();
     shown.title = I18n::t(section.title);
     for (const RowText& row : section.rows) {
-      shown.rows.push_back({keysOf(row, region), std::string(I18n::t(row.description)), {}});
+      shown.rows.push_back({keysOf(row, region), std::string(I18n::t(row.description)),
+                            std::string(row.keys == kHotKey ? hotKey : "")});
     }
   }
   return card;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "i18n/region.h"
@@ -20,7 +21,8 @@ struct ShortcutsSection {
   std::vector<Row> rows;
 };
 
-/// The card in the current language; the example of a date follows the region's order.
-std::vector<ShortcutsSection> shortcutsCard(const Region& region);
+/// The card in the current language; the example of a date follows the region's order. `hotKey` is the key
+/// that stands for quick add on this desktop, as the user reads it; empty where none does.
+std::vector<ShortcutsSection> shortcutsCard(const Region& region, std::string_view hotKey = {});
 
 }  // namespace brimle

@@ -3,6 +3,7 @@ controls and the clipboard.
 """
 import datetime
 import os
+import shutil
 import subprocess
 import unittest
 from dataclasses import replace
@@ -15,7 +16,7 @@ from day_file import Day
 from desktop import DESKTOP
 from waiting import waitUntil
 
-PROGRAM = os.environ.get("BRIMLE_PROGRAM", str(Path(__file__).parents[2] / "build/bin/brimle"))
+PROGRAM = os.environ.get("BRIMLE_PROGRAM", Path(__file__).parents[2] / "build/bin/brimle")
 PICTURES = Path(PROGRAM).parents[1] / "desktop-tests"
 ADD = "Add a task"
 EDIT = "Edit"
@@ -45,25 +46,27 @@ class DesktopCase(unittest.TestCase):
         self._messages = (DESKTOP.home / "messages").open("w+", encoding="utf-8")
         self._program = DESKTOP.start(PROGRAM, stderr=self._messages)
         self.addCleanup(self._end)
-        self.app = applicationOf(self._program)
         self.menus = MenuWatch()
+        self.addCleanup(self.menus.end)
+        self.app = self.until(lambda: applicationOf(self._program), "the program was on the accessibility bus")
         self.window = self.app.find("window", "Brimle")
         self.waitForFocus(ADD)
 
     def _end(self):
         DESKTOP.end(self._program)
-        self.menus.end()
         self._messages.seek(0)
         messages = self._messages.read()
         self._messages.close()
-        for path in self._folder.rglob("*"):
-            if path.is_file():
-                path.unlink()
+        for variable in ("XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME"):
+            for folder in Path(os.environ[variable]).glob("[Bb]rimle"):
+                shutil.rmtree(folder)
         self.assertNotIn("qrc:", messages, "a view complained")
 
-    def until(self, condition, what):
+    def until(self, condition, what, meanwhile=lambda: None):
+        """Waits until a condition holds, doing something before every look at it where that is given."""
         def conditionWhileItRuns():
             self.assertIsNone(self._program.poll(), "the program ended")
+            meanwhile()
             return condition()
         try:
             return waitUntil(conditionWhileItRuns, what)
@@ -73,27 +76,34 @@ class DesktopCase(unittest.TestCase):
 
     # The day file.
 
-    def expectDay(self, **lists):
+    def expectDay(self, meanwhile=lambda: None, **lists):
         """Waits until these lists hold these tasks, and the others what they held at the last look."""
         self.day = replace(self.day, **lists)
-        self.until(lambda: self._read() == self.day, lambda: f"the day is\n{self.day}\nwhile it is\n{self._read()}")
+        self.until(lambda: self._read() == self.day, lambda: f"the day is\n{self.day}\nwhile it is\n{self._read()}",
+                   meanwhile)
 
     def _read(self):
         return day_file.decoded(self._file.read_text(encoding="utf-8"))
 
-    # Today's list.
+    # The rows of the list that is shown: today's, or the archive's.
 
     def rows(self):
-        """The rows from the top down. The tree keeps them in the order in which they came."""
-        return sorted(self.window.all("row"), key=lambda row: row.box[1])
+        """The rows in sight, from the top down. The tree keeps them in the order in which they came."""
+        _, top, _, height = self.window.find("list").box
+        boxes = [(row, row.box) for row in self.window.all("row")]
+        seen = [(box[1], row) for row, box in boxes if top - 1 <= box[1] and box[1] + box[3] <= top + height + 1]
+        return [row for _, row in sorted(seen, key=lambda placed: placed[0])]
 
     def row(self, text):
         """The row of a task, when all rows have come to rest."""
         self.waitForRest()
-        return self.window.find("row", lambda name: name == text or name.startswith(text + ", "))
+        found = self.until(lambda: [row for row in self.rows() if row.name.split(", ")[0] == text],
+                           lambda: f"there was a row {text!r}; there are {[row.name for row in self.rows()]}")
+        self.assertEqual(len(found), 1)
+        return found[0]
 
     def waitForRest(self):
-        """Until the rows stand one below the other from the top of their list, twice in succession."""
+        """Until no row moves from one look to the next, and none lies over another or leaves a gap that is to close."""
         last = None
 
         def atRest():
@@ -103,12 +113,18 @@ class DesktopCase(unittest.TestCase):
         self.until(atRest, lambda: f"the rows were at rest; they are at {last}")
 
     def _stacked(self, boxes):
-        _, top, _, _ = self.window.find("list").box
-        for _, y, _, height in boxes:
+        """Whether the rows of today's list stand one below the other from its top. The archive's never move alone."""
+        shown = self.window.find("list")
+        top = shown.box[1]
+        for _, y, _, height in boxes if shown.name == "Task list" else []:
             if abs(y - top) > 1:
                 return False
             top = y + height
         return True
+
+    def expectRows(self, *texts):
+        self.until(lambda: [row.name.split(", ")[0] for row in self.rows()] == list(texts),
+                   lambda: f"the rows were {texts}; they are {[row.name for row in self.rows()]}")
 
     def selected(self):
         """The texts of the selected rows."""
@@ -119,12 +135,12 @@ class DesktopCase(unittest.TestCase):
 
     # The keyboard.
 
-    def waitForFocus(self, name, text=None):
-        """The field of this name, with this text where one is given, as soon as it has the keyboard."""
+    def waitForFocus(self, name, text=None, role="field"):
+        """Until the control of this name has the keyboard and, where it is given, holds this text."""
         def focused():
-            fields = [field for field in self.window.all("field", name) if field.focused]
-            return fields[0] if fields and text in (None, fields[0].text) else None
-        return self.until(focused, f"the field {name!r} had the keyboard" + ("" if text is None else f" and held {text!r}"))
+            controls = [control for control in self.window.all(role, name) if control.focused]
+            return controls and (text is None or controls[0].text == text)
+        self.until(focused, f"the {role} {name!r} had the keyboard" + ("" if text is None else f" and held {text!r}"))
 
     def waitUntilClosed(self, name):
         self.until(lambda: not self.window.all("field", name), f"the field {name!r} was closed")
@@ -146,7 +162,14 @@ class DesktopCase(unittest.TestCase):
     def choose(self, row, item):
         """Opens the context menu of a row and clicks an item of it."""
         hands.rightClick(row.point())
-        hands.click(self.menus.menu().find("menu item", item).point())
+        hands.click(self.menus.item(item).point())
+        self.menus.waitUntilClosed()
+
+    def chooseFromMainMenu(self, *path):
+        """Opens the program's menu and clicks an item of it, of its submenu, and so on."""
+        hands.click(self.window.find("button", "Menu").point())
+        for item in path:
+            hands.click(self.menus.item(item).point())
         self.menus.waitUntilClosed()
 
     def copied(self):
@@ -155,5 +178,6 @@ class DesktopCase(unittest.TestCase):
         return answer.stdout.decode()
 
     def putOnClipboard(self, text):
-        subprocess.run(["xclip", "-selection", "clipboard", "-in"], input=text.encode(), check=True, timeout=30)
+        subprocess.run(["xclip", "-selection", "clipboard", "-in"], input=text.encode(), check=True, timeout=30,
+                       stderr=DESKTOP.log)
         self.until(lambda: self.copied() == text, "the text was on the clipboard")

@@ -1,40 +1,25 @@
 """Finding controls the way a screen reader does: by role and name in the accessibility tree. A control that is not on
-the screen is not found. Extents are pixels of the screen.
+the screen is not found.
 """
-import desktop  # first, for pyatspi looks at once for the bus  # pylint: disable=unused-import
-import pyatspi
+import accessibility
 from gi.repository import GLib
-
 from waiting import waitUntil
 
-ROLES = {
-    "button": pyatspi.ROLE_PUSH_BUTTON,
-    "check box": pyatspi.ROLE_CHECK_BOX,
-    "field": pyatspi.ROLE_TEXT,
-    "heading": pyatspi.ROLE_HEADING,
-    "label": pyatspi.ROLE_LABEL,
-    "list": pyatspi.ROLE_LIST,
-    "menu item": pyatspi.ROLE_MENU_ITEM,
-    "row": pyatspi.ROLE_LIST_ITEM,
-    "window": pyatspi.ROLE_FRAME,
-}
+ROLES = {"button": "push button", "field": "text", "row": "list item", "window": "frame"}  # others are named as they are
 
 
 class Control:
-    """One element of the tree, looked at anew at every question."""
-
     def __init__(self, element):
         self._element = element
 
     @property
     def name(self):
-        return self._element.name
+        return self._element.name()
 
     @property
     def box(self):
-        """Left, top, width, height."""
-        extents = self._element.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-        return extents.x, extents.y, extents.width, extents.height
+        """Left, top, width, height, in pixels of the screen."""
+        return self._element.box()
 
     def point(self, across=0.5, down=0.5):
         """A point in it, as fractions of its extents; the middle where none are given."""
@@ -44,19 +29,21 @@ class Control:
     @property
     def text(self):
         """What stands in a field, its lines ended by newlines."""
-        return self._element.queryText().getText(0, -1).replace("\N{LINE SEPARATOR}", "\n")
-
-    def has(self, state):
-        return self._element.getState().contains(state)
+        return self._element.text().replace("\N{LINE SEPARATOR}", "\n")
 
     @property
     def focused(self):
-        return self.has(pyatspi.STATE_FOCUSED)
+        return self._element.has(accessibility.FOCUSED)
+
+    @property
+    def active(self):
+        """Whether it is the window that has the keyboard."""
+        return self._element.has(accessibility.ACTIVE)
 
     def all(self, role, named=None):
         """Every control in it with the role, of those on the screen; with the name, or one that `named(name)` takes."""
         accepts = named if callable(named) else lambda name: named in (None, name)
-        return [control for control in self._withRole(ROLES[role]) if accepts(control.name)]
+        return [control for control in self._withRole(ROLES.get(role, role)) if accepts(control.name)]
 
     def find(self, role, named=None):
         """The one such control in it, as soon as there is exactly one."""
@@ -66,61 +53,56 @@ class Control:
         return waitUntil(one, lambda: f"there is one {role} named {named!r}; there are\n{self._tree()}")
 
     def _children(self):
-        for child in self._element:
-            if child is not None and child.getState().contains(pyatspi.STATE_SHOWING):
-                yield Control(child)
+        return [Control(child) for child in self._element.children() if child.has(accessibility.SHOWING)]
 
     def _withRole(self, role):
         """A control in a control of the same role is not looked for."""
         for child in self._children():
-            if child._element.getRole() == role:
+            if child._element.role() == role:
                 yield child
             else:
                 yield from child._withRole(role)
 
     def _tree(self, indent="  "):
-        return "".join(f"{indent}{child._element.getRoleName()} {child.name!r}\n{child._tree(indent + '  ')}"
+        return "".join(f"{indent}{child._element.role()} {child.name!r}\n{child._tree(indent + '  ')}"
                        for child in self._children())
 
 
 def applicationOf(process):
-    """The tree of a program, once it is on the accessibility bus."""
-    def registered():
-        for application in pyatspi.Registry.getDesktop(0):
-            if application is not None and application.get_process_id() == process.pid:
-                return application
-        return None
-    application = waitUntil(registered, f"process {process.pid} was on the accessibility bus")
-    application.set_cache_mask(pyatspi.Atspi.Cache.NONE)
-    return Control(application)
-
-
-def _isMenu(element):
-    try:
-        return element is not None and element.getRole() == pyatspi.ROLE_POPUP_MENU
-    except GLib.Error:
-        return False  # it is gone already
+    """The controls of a program; nothing while it is not on the accessibility bus."""
+    element = accessibility.applicationOf(process)
+    return element and Control(element)
 
 
 class MenuWatch:
-    """Notices context menus, which are windows of their own that only their events lead to."""
+    """Notices menus, which are windows of their own that only their events lead to."""
 
     def __init__(self):
         self._open = []
-        pyatspi.Registry.registerEventListener(self._changed, "object:state-changed:showing")
+        self.end = accessibility.watchShowing(self._changed)
 
-    def _changed(self, event):
-        if event.detail1:
-            if _isMenu(event.source):
-                self._open.append(event.source)
-        else:
-            self._open = [menu for menu in self._open if menu != event.source]
+    def _changed(self, element, shows):
+        if not shows:
+            self._open = [menu for menu in self._open if menu != element]
+        elif self._isMenu(element):
+            self._open.append(element)
 
-    def menu(self):
-        return Control(waitUntil(lambda: self._open, "a menu was open")[-1])
+    @staticmethod
+    def _isMenu(element):
+        try:
+            return element.role() == "popup menu"
+        except GLib.Error:
+            return False  # it is gone already
+
+    def waitUntilOpen(self):
+        waitUntil(lambda: self._open, "a menu was open")
+
+    def item(self, title):
+        """The item of an open menu; its name may go on with its key."""
+        def found():
+            items = [item for menu in self._open for item in Control(menu).all("menu item")]
+            return next((item for item in items if item.name.split("\t")[0] == title), None)
+        return waitUntil(found, lambda: f"a menu had {title!r}; there are {[Control(menu)._tree() for menu in self._open]}")
 
     def waitUntilClosed(self):
         waitUntil(lambda: not self._open, "the menu was closed")
-
-    def end(self):
-        pyatspi.Registry.deregisterEventListener(self._changed, "object:state-changed:showing")

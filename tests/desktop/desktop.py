@@ -14,6 +14,7 @@ from waiting import waitUntil
 SCREEN = "1280x800x24"
 FOLDERS = {"XDG_DATA_HOME": "data", "XDG_CONFIG_HOME": "config", "XDG_STATE_HOME": "state", "XDG_CACHE_HOME": "cache",
            "XDG_RUNTIME_DIR": "run"}
+KEPT = ("PATH", "ASAN_OPTIONS", "UBSAN_OPTIONS", "BRIMLE_PROGRAM")  # of the environment
 
 
 def _zoneAroundNoon():
@@ -29,7 +30,7 @@ class Desktop:
         atexit.register(self._end)
         self._setEnvironment()
         os.environ["DISPLAY"] = ":" + self._startAndRead(
-            "Xvfb", "-screen", "0", SCREEN, "-nolisten", "tcp", "-displayfd", "{fd}")
+            "Xvfb", "-screen", "0", SCREEN, "-nolisten", "tcp", "-noreset", "-displayfd", "{fd}")
         self.start("openbox")
         os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._startAndRead(
             "dbus-daemon", "--session", "--nofork", "--print-address={fd}")
@@ -56,7 +57,7 @@ class Desktop:
         subprocess.run(["import", "-silent", "-window", "root", str(path)], check=False, timeout=30)
 
     def _setEnvironment(self):
-        kept = {name: os.environ[name] for name in ("PATH", "ASAN_OPTIONS", "UBSAN_OPTIONS") if name in os.environ}
+        kept = {name: os.environ[name] for name in KEPT if name in os.environ}
         os.environ.clear()
         os.environ.update(kept, HOME=str(self.home), LC_ALL="C.UTF-8", TZ=_zoneAroundNoon(), QT_QPA_PLATFORM="xcb",
                           QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")

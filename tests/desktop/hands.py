@@ -47,6 +47,11 @@ def doubleClick(point):
     _xdotool("mousemove", *point, "click", "--repeat", 2, "--delay", DOUBLE_CLICK_DELAY, 1)
 
 
+def scrollUp(point):
+    """Turns the wheel towards what is above, a good deal."""
+    _xdotool("mousemove", *point, "click", "--repeat", 15, 4)
+
+
 def takeHold(point):
     """The left button goes down, and stays."""
     _xdotool("mousemove", *point, "mousedown", 1)

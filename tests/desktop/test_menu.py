@@ -43,7 +43,7 @@ class ContextMenu(DesktopCase):
     def testEscapeClosesItAndNothingHappens(self):
         self.start("milk")
         hands.rightClick(self.row("milk").point())
-        self.menus.menu()
+        self.menus.waitUntilOpen()
         hands.press("Escape")
         self.menus.waitUntilClosed()
         hands.enter("tea")

@@ -14,6 +14,7 @@ TEST_F(ContentReactionsTest, GiveUpWhatWasSelectedForTheEntryFieldAndTheSearch) 
          {"click:A click:cmd+B typing -> @B >B", "show:archive click:X show:archive typing -> X @X >X",
           "show:archive click:X search:x -> @X >X; click:X search:x compact show:archive -> X @X >X; "
           "show:today show:archive -> @X >X",
+          "show:archive click:X show:today show:archive -> @X >X",
           "click:B show:archive click:X search:y show:today -> B @B >B"});
   begin("A");
   act("show:archive search:x compact");

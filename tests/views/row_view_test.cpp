@@ -38,13 +38,10 @@ TEST_F(RowViewTest, SendsATaskWhoseTextEndsInADateToThatDayPinned) {
 
 TEST_F(RowViewTest, HintsAtTheDayOfADateToken) {
   begin("A");
-  for (const char* language : {"en", "es"}) {
-    I18n::setLang(language);
-    EXPECT_EQ(row->dateHint("x >20/6"), "→ " + prettyDay("2026-06-20"));
-    EXPECT_EQ(row->dateHint("x >3 marzo"), language[1] == 's' ? "→ " + prettyDay("2027-03-03") : "");
-    EXPECT_EQ(row->dateHint("x >20/6 !") + archive->dateHint(">20/6"), "");
-    EXPECT_EQ(archive->dateHint("x >20/6"), row->dateHint("x >20/6"));
-  }
+  EXPECT_EQ(row->dateHint("x >20/6 !") + archive->dateHint(">20/6") + row->dateHint("x >3 marzo"), "");
+  I18n::setLang("es");
+  EXPECT_EQ(row->dateHint("x >3 marzo"), "→ " + prettyDay("2027-03-03"));
+  EXPECT_EQ(archive->dateHint("x >20/6"), "→ " + prettyDay("2026-06-20"));
 }
 
 TEST_F(RowViewTest, EditsANoteInPlace) {
@@ -97,13 +94,9 @@ TEST_F(RowViewTest, OffersInItsMenuWhatItsTaskIsNot) {
             "Untick,Add note,Remove highlight,Unpin,Move to tomorrow,,Repeat:,-No repeat,-Every day,"
             "+Weekdays only,,Delete?,");
   I18n::setLang("fr");
-  for (const auto& title : split(menu("A*"), ',')) {
-    const std::string key = title.substr(title.find_first_not_of("+-"),
-                                         title.find_last_not_of(":?") + 1 - title.find_first_not_of("+-"));
-    EXPECT_NE(std::ranges::find(I18n::table("fr"), key, &I18n::Translation::text), I18n::table("fr").end())
-        << key;
-    EXPECT_EQ(title.starts_with('+'), key == I18n::t("Every day"));
-  }
+  EXPECT_EQ(menu("A*"),
+            "Cocher,Ajouter une note,Surligner,Épingler en haut,Reporter à demain,,Répéter:,-Ne pas répéter,"
+            "+Tous les jours,-En semaine uniquement,,Supprimer?,");
   EXPECT_EQ(row->menu(idOf("Z")).size(), 0u);
 }
 

@@ -51,7 +51,7 @@ class ViewTest : public ControlTest {
     const auto entry =
         std::ranges::find_if(rows, [&](const auto& one) { return one.key == id || one.key == entryOf(id); });
     const auto menu = ui.showingArchive() ? archive->menu(*entry) : row->menu(id);
-    const auto item = std::ranges::find(menu, title, &MenuItem::title);
+    const auto item = std::ranges::find(menu, title, &MenuEntry::title);
     ASSERT_NE(item, menu.end()) << title;
     item->action();
   }
@@ -83,6 +83,7 @@ class ViewTest : public ControlTest {
           {"unschedule", [&] { store->removeScheduled(entry); }},
           {"typing", [&] { reactions->addFocused(); }},
           {"wanted", [&] { todayFocusAdd.notify(); }},
+          {"future", [&] { ui.setArchiveViewingFuture(true); }},
           {"compact", [&] { ui.setCompact(!ui.compact()); }},
           {"drag", [&] { drag->begin(id); }},
           {"over", [&] { drag->enter(id); }},

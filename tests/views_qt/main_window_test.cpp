@@ -1,11 +1,13 @@
 #include "views/qt/main_window.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QClipboard>
-#include <QGuiApplication>
+#include <QMenu>
 #include <QQuickItem>
 #include <QTest>
 
+#include "app/app_fixture.h"
 #include "i18n/dates.h"
 #include "i18n/i18n.h"
 #include "model/store_fixture.h"
@@ -24,7 +26,16 @@ class MainWindowTest : public StoreTest {
     archive.emplace(*store, sel, ui, time);
     main.emplace(Today::Parts{*store, *view, *archive, ui, sel, time, todayFocusAdd}, pasteboard);
     main->theme().setReduceMotion(true);
-    main->bringForward();
+    app.emplace(
+        AppDelegate::Ports{time, desktop, preferences, pasteboard, center, application, *main, main->menus(),
+                           status, hotKey, loginItem, updates, main->shortcuts(), links},
+        *store, ui, todayFocusAdd, "help@brimle.invalid");
+    main->setReports({.key = [this](const KeyPress& key) { return app->performKeyEquivalent(key); },
+                      .frameChanged = {},
+                      .shown = {},
+                      .closed = [this] { ++closed; }});
+    app->finishedLaunching();
+    app->focusQuickAdd();
     window = qobject_cast<QQuickWindow*>(QGuiApplication::topLevelWindows().constLast());
     ASSERT_TRUE(window && QTest::qWaitForWindowActive(window));
   }
@@ -66,6 +77,19 @@ class MainWindowTest : public StoreTest {
 
   QQuickItem* field() { return items(QAccessible::EditableText, 1).at(0); }
 
+  /// Presses a key that opens a menu and chooses an item of it; whether there is one.
+  bool chooses(QKeyCombination key, const QString& title) {
+    QTest::keyClick(window, key.key(), key.keyboardModifiers());
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (!menu) return false;
+    const QList<QAction*> actions = menu->actions();
+    const auto found = std::ranges::find(actions, title, &QAction::text);
+    const bool there = found != actions.end();
+    if (there) (*found)->trigger();
+    menu->close();
+    return there;
+  }
+
   void click(QQuickItem* item) {
     const QPointF centre = item->mapToScene({item->width() / 2, item->height() / 2});
     QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
@@ -79,6 +103,16 @@ class MainWindowTest : public StoreTest {
   std::optional<ContentView> view;
   std::optional<ArchiveView> archive;
   std::optional<MainWindow> main;
+  Journal journal;
+  JournalCenter center{journal, time, files};
+  SimulatedApplication application{journal};
+  SimulatedStatusItem status;
+  SimulatedHotKey hotKey;
+  SimulatedLoginItem loginItem{journal};
+  SimulatedUpdateController updates{journal};
+  SimulatedLinkOpener links{journal};
+  std::optional<AppDelegate> app;
+  int closed = 0;
   QQuickWindow* window = nullptr;
 
  private:
@@ -130,6 +164,33 @@ TEST_F(MainWindowTest, TicksATaskByItsDotAndSweepsItAfterAPause) {
   time.advance(Seconds(0.32));
   EXPECT_EQ(names(QAccessible::ListItem, 1), "A ");
   EXPECT_EQ(state(), "A |  |  | 15:B+");
+}
+
+TEST_F(MainWindowTest, SlidesASweptRowOut) {
+  main->theme().setReduceMotion(false);
+  QQuickItem* dot = items(QAccessible::CheckBox, 2).at(1);
+  const auto place = [&] { return dot->mapToScene({}).x(); };
+  const double before = place();
+  click(dot);
+  time.advance(Seconds(0.9));
+  EXPECT_LT(place(), before + 600);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return place() == before + 600; }));
+}
+
+TEST_F(MainWindowTest, DarkensAWordWhileThePointerIsOverIt) {
+  const auto buttons = items(QAccessible::Button, 4);
+  const auto word =
+      std::ranges::find_if(buttons, [](auto* item) { return item->property("text") == "Archive"; });
+  ASSERT_NE(word, buttons.end());
+  const auto colour = [&] { return (*word)->property("color").value<QColor>().rgba(); };
+  const QPoint over = (*word)->mapToScene({4, 4}).toPoint();
+  const QPoint beside = over + QPoint(0, 100);
+  const Theme& theme = main->theme();
+  QTest::mouseMove(window, over);
+  EXPECT_EQ(colour(), theme.primary().rgba());
+  QTest::mouseClick(window, Qt::LeftButton, {}, over);
+  QTest::mouseMove(window, beside);
+  EXPECT_EQ(colour(), theme.secondary().rgba());
 }
 
 TEST_F(MainWindowTest, UndoesTypingFirstAndThenWhatWasDone) {
@@ -207,14 +268,82 @@ TEST_F(MainWindowTest, FollowsTheLanguageOfTheSettings) {
 }
 
 TEST_F(MainWindowTest, HidesByItsCloseButtonAndComesForwardAgain) {
-  int closed = 0;
-  main->onClose([&] { ++closed; });
-  click(items(QAccessible::Button, 3).at(0));
+  click(items(QAccessible::Button, 4).at(0));
   EXPECT_FALSE(window->isVisible());
   EXPECT_EQ(closed, 1);
-  main->bringForward();
+  app->focusQuickAdd();
   ASSERT_TRUE(QTest::qWaitForWindowActive(window));
   EXPECT_EQ(after("C Return"), "A B c' []");
+}
+
+TEST_F(MainWindowTest, FoldsToItsHeaderAndUnfoldsForWhoeverWantsToType) {
+  const auto height = [&](int wanted) { return QTest::qWaitFor([&] { return window->height() == wanted; }); };
+  QQuickItem* title = items(QAccessible::Heading, 1).at(0);
+  QTest::mouseDClick(window, Qt::LeftButton, {}, title->mapToScene({20, 8}).toPoint());
+  time.runUntilIdle();
+  EXPECT_TRUE(height(34));
+  EXPECT_EQ(names(QAccessible::ListItem, 0), "") << "the header is all there is";
+  EXPECT_LE(title->mapToScene({0, title->height()}).y(), 34);
+  EXPECT_GE(title->mapToScene({}).x(), 62);
+  app->focusQuickAdd();
+  time.runUntilIdle();
+  EXPECT_TRUE(height(400));
+  EXPECT_EQ(after("C Return"), "A B c' []");
+}
+
+TEST_F(MainWindowTest, IsSteeredByTheKeyboardAlone) {
+  const auto focused = [&] {
+    const auto* interface = QAccessible::queryAccessibleInterface(window->activeFocusItem());
+    return interface ? interface->text(QAccessible::Name).toStdString() : "";
+  };
+  std::string stops;
+  for (int stop = 0; stop < 7; ++stop) {
+    QTest::keyClick(window, Qt::Key_F6);
+    stops += focused() + ", ";
+  }
+  EXPECT_EQ(stops, "Close, Minimise, Menu, " + view->dateLine() + ", Archive, Task list, Add a task, ");
+  EXPECT_TRUE(main->theme().focusShown());
+  QTest::keyClick(window, Qt::Key_Backtab);
+  EXPECT_EQ(focused(), "Task list");
+  QTest::keyClick(window, Qt::Key_Up);
+  EXPECT_EQ(names(QAccessible::ListItem, 2), "A B, selected ");
+  EXPECT_TRUE(chooses(Qt::Key_Menu, "Pin to top"));
+  EXPECT_EQ(state(), "B! A");
+  EXPECT_TRUE(chooses(QKeyCombination(Qt::SHIFT, Qt::Key_F10), "Delete"));
+  EXPECT_EQ(state(), "A");
+}
+
+TEST_F(MainWindowTest, OpensItsMenuByABareTapOfAltOnly) {
+  struct Case {
+    const char* what;
+    std::vector<std::pair<QEvent::Type, Qt::Key>> events;
+    bool opens;
+  };
+  const auto press = QEvent::KeyPress, release = QEvent::KeyRelease;
+  const Case cases[] = {
+      {"a tap", {{press, Qt::Key_Alt}, {release, Qt::Key_Alt}}, true},
+      {"with a key",
+       {{press, Qt::Key_Alt}, {press, Qt::Key_Left}, {release, Qt::Key_Left}, {release, Qt::Key_Alt}},
+       false},
+      {"a release alone", {{release, Qt::Key_Alt}}, false},
+      {"F10", {{press, Qt::Key_F10}}, true},
+  };
+  for (const Case& one : cases) {
+    for (const auto& [type, key] : one.events) {
+      QKeyEvent event(type, key,
+                      key == Qt::Key_Alt && type == press ? Qt::NoModifier : Qt::KeyboardModifiers());
+      QCoreApplication::sendEvent(window, &event);
+    }
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    EXPECT_EQ(menu != nullptr, one.opens) << one.what;
+    if (!menu) continue;
+    EXPECT_EQ(menu->actions().size(), 6);
+    EXPECT_EQ(menu->actions().at(0)->menu()->actions().back()->text(), "Quit Brimle\tCtrl+Q");
+    EXPECT_EQ(menu->actions().at(1)->menu()->actions().front()->text(), "New Task\tCtrl+N");
+    EXPECT_EQ(menu->actions().at(1)->menu()->actions().back()->text(),
+              "Paste Clipboard as Tasks\tCtrl+Shift+V");
+    menu->close();
+  }
 }
 
 }  // namespace

@@ -65,6 +65,8 @@ class AppDelegate {
   void reopen(const std::string& token);
   /// The window was moved or resized, by whomever.
   void windowFrameChanged();
+  /// Screens were added, removed or changed: a window that is on none of them any more comes onto one.
+  void screensChanged();
   void willTerminate();
 
   /// Brings the window forward with the keyboard in the entry field.

@@ -29,6 +29,12 @@ void AppDelegate::saveFrame() {
                                frameText(isCompactNow_ ? unfolded(frame, expandedHeight_) : frame));
 }
 
+void AppDelegate::screensChanged() {
+  const Rect frame = ports_.window.frame();
+  const Rect seen = ontoAScreen(frame, ports_.window.screens());
+  if (seen != frame) ports_.window.setFrame(seen);
+}
+
 void AppDelegate::willTerminate() {
   saveFrame();
 }

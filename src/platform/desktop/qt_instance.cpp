@@ -17,10 +17,10 @@ constexpr auto kInterface = "org.freedesktop.Application";
 constexpr int kStartingMilliseconds = 3000;
 constexpr int kAnswerMilliseconds = 3000;
 
-QByteArray tokenOf(const QVariantMap& platformData) {
+std::string tokenOf(const QVariantMap& platformData) {
   for (const char* key : {"activation-token", "desktop-startup-id"}) {
-    const QByteArray token = platformData.value(QLatin1String(key)).toString().toUtf8();
-    if (!token.isEmpty()) return token;
+    const std::string token = platformData.value(QLatin1String(key)).toString().toStdString();
+    if (!token.empty()) return token;
   }
   return {};
 }
@@ -47,7 +47,7 @@ bool waitForService(const QDBusConnection& bus) {
 
 }  // namespace
 
-QtInstance::QtInstance(std::function<void(QByteArray)> activate) : activate_(std::move(activate)) {}
+QtInstance::QtInstance(Requests requests) : requests_(std::move(requests)) {}
 
 bool QtInstance::announce() {
   QDBusConnection bus = QDBusConnection::sessionBus();
@@ -63,15 +63,15 @@ bool QtInstance::announce() {
 }
 
 void QtInstance::Activate(const QVariantMap& platformData) {
-  activate_(tokenOf(platformData));
+  requests_.activate(tokenOf(platformData));
 }
 
 void QtInstance::Open(const QStringList&, const QVariantMap& platformData) {
   Activate(platformData);
 }
 
-void QtInstance::ActivateAction(const QString&, const QVariantList&, const QVariantMap& platformData) {
-  Activate(platformData);
+void QtInstance::ActivateAction(const QString& name, const QVariantList&, const QVariantMap& platformData) {
+  if (name == QLatin1String("new-task")) requests_.newTask(tokenOf(platformData));
 }
 
 bool activateRunningInstance() {

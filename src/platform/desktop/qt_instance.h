@@ -3,10 +3,10 @@
 // here but by the lock on the data folder.
 #pragma once
 
-#include <QByteArray>
 #include <QObject>
 #include <QVariantMap>
 #include <functional>
+#include <string>
 
 namespace brimle {
 
@@ -16,8 +16,14 @@ class QtInstance : public QObject {
   Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 
  public:
-  /// `activate` is called with the activation token of whoever asks, empty where there is none.
-  explicit QtInstance(std::function<void(QByteArray)> activate);
+  /// What others on the bus can ask for; each is called with the activation token of whoever asks, empty
+  /// where there is none.
+  struct Requests {
+    std::function<void(const std::string& token)> activate;
+    std::function<void(const std::string& token)> newTask;  ///< the desktop file's action "new-task"
+  };
+
+  explicit QtInstance(Requests requests);
 
   /// Takes the application's name on the session bus, without waiting for the answer. False where there is no
   /// bus.
@@ -29,7 +35,7 @@ class QtInstance : public QObject {
   void ActivateAction(const QString& name, const QVariantList& parameter, const QVariantMap& platformData);
 
  private:
-  std::function<void(QByteArray)> activate_;
+  const Requests requests_;
 };
 
 /// Asks the instance that is running to come forward, waiting a moment for one that is only starting. False

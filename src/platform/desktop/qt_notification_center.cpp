@@ -39,7 +39,7 @@ QVariantList notifyArguments(const NotificationRequest& request, uint replacedId
 }  // namespace
 
 QtNotificationCenter::QtNotificationCenter(Time& time, Files& files, const Path& stateFolder,
-                                           std::function<void(QByteArray activationToken)> onClicked)
+                                           std::function<void(const std::string& activationToken)> onClicked)
     : LocalNotificationCenter(time, files, stateFolder), onClicked_(std::move(onClicked)) {}
 
 QtNotificationCenter::~QtNotificationCenter() = default;
@@ -99,7 +99,7 @@ void QtNotificationCenter::tokenGiven(uint id, const QString& token) {
 void QtNotificationCenter::actionInvoked(uint id, const QString& action) {
   if (!isOurs(id)) return;
   const auto token = tokens_.extract(id);
-  if (action == QLatin1String(kClick)) onClicked_(token ? token.mapped() : QByteArray());
+  if (action == QLatin1String(kClick)) onClicked_(token ? token.mapped().toStdString() : std::string());
 }
 
 void QtNotificationCenter::call(const char* method, const QVariantList& arguments,

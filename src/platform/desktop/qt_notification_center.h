@@ -26,7 +26,7 @@ class QtNotificationCenter : public QObject, public LocalNotificationCenter {
   /// `onClicked` is called when the user clicks a notification, with the activation token that the server
   /// gave for it; empty where it gave none.
   QtNotificationCenter(Time& time, Files& files, const Path& stateFolder,
-                       std::function<void(QByteArray activationToken)> onClicked);
+                       std::function<void(const std::string& activationToken)> onClicked);
   ~QtNotificationCenter() override;
 
  protected:
@@ -45,7 +45,7 @@ class QtNotificationCenter : public QObject, public LocalNotificationCenter {
   void notify(const NotificationRequest& request, const QStringList& capabilities,
               const std::function<void(bool shown)>& done);
 
-  std::function<void(QByteArray)> onClicked_;
+  std::function<void(const std::string&)> onClicked_;
   std::unique_ptr<QDBusServiceWatcher> server_;  ///< none before the bus is met
   std::map<std::string, uint> ids_;              ///< what the present server showed: its id by identifier
   std::map<uint, QByteArray> tokens_;            ///< given for a click that is about to be told

@@ -5,10 +5,13 @@
 #include <QTimer>
 #include <utility>
 
+#include "platform/desktop/posix_bus_probe.h"
+
 namespace brimle {
 namespace {
 
 const auto kBus = QStringLiteral("brimle-system");
+constexpr std::chrono::seconds kPatience(10);
 
 }  // namespace
 
@@ -17,9 +20,13 @@ QtSleepWatch::QtSleepWatch(std::function<void()> onWake) : onWake_(std::move(onW
   QTimer::singleShot(0, this, &QtSleepWatch::meetBus);
 }
 
-/// On a thread of its own, for meeting a bus is waiting until it answers, half a minute where it hangs.
+/// On a thread of its own, for meeting a bus is waiting until it answers. One that hangs is not met at all:
+/// Qt would serve no other bus meanwhile, and hold up whoever asks it to.
 void QtSleepWatch::meetBus() {
-  QThread* meeting = QThread::create([] { QDBusConnection::connectToBus(QDBusConnection::SystemBus, kBus); });
+  QThread* meeting = QThread::create([] {
+    if (!busHangs(systemBusAddresses(), kPatience))
+      QDBusConnection::connectToBus(QDBusConnection::SystemBus, kBus);
+  });
   connect(meeting, &QThread::finished, this, &QtSleepWatch::listen);
   connect(meeting, &QThread::finished, meeting, &QThread::deleteLater);
   meeting->start();

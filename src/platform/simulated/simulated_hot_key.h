@@ -13,8 +13,12 @@ class SimulatedHotKey : public HotKey {
   std::function<void(const std::string& token)> press = [](const auto&) {};
 
   void install(std::function<void(const std::string& token)> onPress) override {
-    if (!taken) press = std::move(onPress);
+    if (taken) return;
+    press = std::move(onPress);
+    setKeyInForce("Ctrl+Alt+T");
   }
+
+  using HotKey::setKeyInForce;
 };
 
 }  // namespace brimle

@@ -57,7 +57,8 @@ Item {
     }
     FocusRing {
         target: list
-        reach: 2 - list.bleed
+        reach: 2
+        reachAside: 2 - list.bleed
     }
     ScrollMark { flickable: list }
 

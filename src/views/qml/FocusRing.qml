@@ -5,8 +5,9 @@ import Brimle
 Rectangle {
     required property Item target
     property real reach: 3
+    property real reachAside: reach
 
-    anchors { fill: target; margins: -reach }
+    anchors { fill: target; margins: -reach; leftMargin: -reachAside; rightMargin: -reachAside }
     visible: Theme.focusShown && Window.activeFocusItem === target
     color: "transparent"
     radius: 5

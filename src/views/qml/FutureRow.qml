@@ -19,6 +19,8 @@ Item {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: text
+    Accessible.focusable: true
+    Accessible.onPressAction: archive.beginEdit(key)
 
     /// Asks for the next scheduled task, or with -1 for the one before.
     signal stepped(step: int)

@@ -12,6 +12,8 @@ Item {
     required property string text
     /// Whether no other tooltip of what is beneath may show while this may.
     property bool alone: false
+    /// Whether the pointer is over the target; where this is alone, only this can tell.
+    readonly property alias hovered: hover.hovered
 
     parent: target
     anchors.fill: parent

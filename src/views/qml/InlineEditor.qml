@@ -46,18 +46,29 @@ Item {
         font { family: input.font.family; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
     }
 
-    /// Scrolls the list it stands in so far that it is seen.
+    /// The list it stands in, which shows it: when it opens, and when what is around it has found its place.
+    property Flickable list
+    Connections {
+        target: editor.list
+        function onContentHeightChanged() { if (input.activeFocus) editor.show() }
+    }
+
+    function findList(): Flickable {
+        let item = parent
+        while (item && !(item instanceof Flickable)) item = item.parent
+        return item
+    }
     function show() {
-        let list = parent
-        while (list && !(list instanceof Flickable)) list = list.parent
         if (!list) return
         const top = mapToItem(list.contentItem, 0, 0).y
-        list.contentY = Math.max(list.originY, Math.min(top - 5, Math.max(list.contentY, top + height + 5 - list.height)))
+        const lowest = top + height + 5 - list.height
+        list.contentY = Math.max(list.originY, Math.min(top - 5, Math.max(list.contentY, lowest)))
     }
 
     // On the turn after it was made, when the row has its place; the caret after that.
     Component.onCompleted: {
         input.text = initialText
+        list = findList()
         Qt.callLater(input.forceActiveFocus)
         Qt.callLater(() => {
             input.cursorPosition = input.length

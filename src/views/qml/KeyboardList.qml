@@ -11,6 +11,7 @@ ListView {
     boundsBehavior: Flickable.StopAtBounds
     keyNavigationEnabled: false
     activeFocusOnTab: true
+    currentIndex: -1 // a current row would take the keyboard for itself
 
     /// The keyboard goes to the list itself, also from a control within a row.
     function takeKeyboard() {

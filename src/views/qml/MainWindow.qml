@@ -31,6 +31,7 @@ Window {
         x: 12
         y: 11
         target: window
+        today: window.today
     }
 
     WindowEdges {

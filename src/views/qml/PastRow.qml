@@ -17,7 +17,9 @@ Item {
     Accessible.role: Accessible.ListItem
     Accessible.name: [text, completed ? Texts.of["ticked"] : "", selected ? Texts.of["selected"] : ""]
         .filter(word => word !== "").join(", ")
+    Accessible.selectable: true
     Accessible.selected: selected
+    Accessible.onPressAction: archive.select(key, 0)
 
     Rectangle {
         anchors { fill: parent; leftMargin: -6; rightMargin: -6 }

@@ -36,7 +36,7 @@ Rectangle {
         onTextEdited: box.archive.query = text
         Keys.onEscapePressed: {
             if (text !== "") box.archive.query = ""
-            else box.archive.showing = false
+            else box.archive.leave()
         }
         Accessible.role: Accessible.EditableText
         Accessible.name: Texts.of["Search archive"]

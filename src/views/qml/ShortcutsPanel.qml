@@ -16,7 +16,6 @@ Window {
     maximumWidth: width
     minimumHeight: height
     maximumHeight: height
-    title: Texts.of["Shortcuts"]
     color: Theme.paper
     flags: Qt.Dialog | Qt.WindowTitleHint | Qt.WindowCloseButtonHint | Qt.WindowStaysOnTopHint
 

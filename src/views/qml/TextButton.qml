@@ -9,7 +9,7 @@ Text {
     signal triggered
 
     textFormat: Text.PlainText
-    color: area.containsMouse ? Theme.primary : Theme.secondary
+    color: tip.hovered ? Theme.primary : Theme.secondary
     font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
 
     activeFocusOnTab: true
@@ -22,14 +22,13 @@ Text {
     Accessible.onPressAction: triggered()
 
     MouseArea {
-        id: area
         anchors.fill: parent
         anchors.margins: -4
-        hoverEnabled: true
         onClicked: button.triggered()
     }
 
     Hint {
+        id: tip
         target: button
         text: button.hint
         alone: true

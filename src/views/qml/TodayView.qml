@@ -40,7 +40,8 @@ Item {
         }
         FocusRing {
             target: tasks
-            reach: 2 - tasks.bleed
+            reach: 2
+            reachAside: 2 - tasks.bleed
         }
         ScrollMark {
             flickable: tasks

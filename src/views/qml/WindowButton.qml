@@ -8,12 +8,14 @@ Rectangle {
     required property string symbol
     required property string label
     required property bool glyphShown
+    /// Without the round ground.
+    property bool flat: false
     signal triggered
 
     width: 12
     height: 12
     radius: 6
-    color: Theme.faded(Theme.primary, area.pressed ? 0.34 : 0.18)
+    color: flat ? "transparent" : Theme.faded(Theme.primary, area.pressed ? 0.34 : 0.18)
 
     Accessible.role: Accessible.Button
     Accessible.name: label
@@ -32,7 +34,7 @@ Rectangle {
         visible: button.glyphShown
         name: button.symbol
         size: 12
-        color: Theme.primary
+        color: button.flat ? Theme.secondary : Theme.primary
     }
 
     MouseArea {

@@ -1,4 +1,4 @@
-// The window's own two buttons: close, which hides it, and minimise.
+// The window's own buttons: close, which hides it, minimise, and the menu.
 import QtQuick
 import Brimle
 
@@ -7,7 +7,9 @@ Row {
 
     required property Window target
 
-    spacing: 8
+    required property Today today
+
+    spacing: 6
 
     HoverHandler { id: hover }
 
@@ -22,5 +24,13 @@ Row {
         label: Texts.of["Minimise"]
         glyphShown: hover.hovered
         onTriggered: buttons.target.showMinimized()
+    }
+    WindowButton {
+        objectName: "menu"
+        symbol: "menu"
+        label: Texts.of["Menu"]
+        glyphShown: true
+        flat: true
+        onTriggered: buttons.today.menuRequested()
     }
 }

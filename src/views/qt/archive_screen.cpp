@@ -7,8 +7,15 @@
 
 namespace brimle {
 
-ArchiveScreen::ArchiveScreen(Store& store, SelectionModel& sel, UIState& ui, ArchiveView& view)
-    : store_(store), ui_(ui), sel_(sel), view_(view), commands_(store, sel, ui), rows_(store, view, sel) {
+ArchiveScreen::ArchiveScreen(Store& store, SelectionModel& sel, UIState& ui, ArchiveView& view,
+                             Signal<>& todayFocusAdd)
+    : store_(store),
+      ui_(ui),
+      sel_(sel),
+      view_(view),
+      todayFocusAdd_(todayFocusAdd),
+      commands_(store, sel, ui),
+      rows_(store, view, sel) {
   subscriptions_.push_back(store.observe([this](const Store::Changes& changes) {
     if (shown_ && (changes.has(Store::Field::archive) || changes.has(Store::Field::scheduled))) refresh();
   }));
@@ -35,6 +42,11 @@ QString ArchiveScreen::query() const {
 
 void ArchiveScreen::setQuery(const QString& query) {
   if (query != this->query()) ui_.setArchiveQuery(fromQt(query));
+}
+
+void ArchiveScreen::leave() {
+  ui_.setShowingArchive(false);
+  todayFocusAdd_.notify();
 }
 
 void ArchiveScreen::boundaryMoved(double distance) {

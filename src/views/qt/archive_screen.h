@@ -23,7 +23,7 @@ class ArchiveScreen : public QObject {
 
  public:
   /// All references must outlive this.
-  ArchiveScreen(Store& store, SelectionModel& sel, UIState& ui, ArchiveView& view);
+  ArchiveScreen(Store& store, SelectionModel& sel, UIState& ui, ArchiveView& view, Signal<>& todayFocusAdd);
 
   QAbstractItemModel* rows() { return &rows_; }
   bool showing() const { return ui_.showingArchive(); }
@@ -39,6 +39,8 @@ class ArchiveScreen : public QObject {
   Q_INVOKABLE void openMenu(const QString& key, const QPointF& place);
 
   Q_INVOKABLE void remove(const QString& key);
+  /// Goes back to today, with the keyboard in the entry field.
+  Q_INVOKABLE void leave();
 
   Q_INVOKABLE void beginEdit(const QString& key);
   Q_INVOKABLE void beginNoteEdit(const QString& key, int index);
@@ -75,6 +77,7 @@ class ArchiveScreen : public QObject {
   UIState& ui_;
   SelectionModel& sel_;
   ArchiveView& view_;
+  Signal<>& todayFocusAdd_;
   ArchiveCommands commands_;
   TimelineModel rows_;
   bool shown_ = false;

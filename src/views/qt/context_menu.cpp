@@ -1,5 +1,8 @@
 #include "views/qt/context_menu.h"
 
+#include <QActionGroup>
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QProxyStyle>
 #include <QStyleOptionMenuItem>
@@ -44,7 +47,8 @@ QString label(const MenuEntry& item) {
 
 void fill(QMenu* menu, const std::vector<MenuEntry>& items);
 
-void addItem(QMenu* menu, const MenuEntry& item) {
+/// `choice` is the group of the items with check marks that stand together, of which one is on.
+void addItem(QMenu* menu, const MenuEntry& item, QActionGroup* choice) {
   if (item.isSeparator()) return void(menu->addSeparator());
   if (!item.items.empty()) return fill(menu->addMenu(label(item)), item.items);
   QAction* action = menu->addAction(label(item));
@@ -52,11 +56,19 @@ void addItem(QMenu* menu, const MenuEntry& item) {
   action->setProperty(kDestructive, item.destructive);
   action->setCheckable(item.on.has_value());
   action->setChecked(item.on.value_or(false));
+  if (item.on) choice->addAction(action);
   if (item.action) QObject::connect(action, &QAction::triggered, action, item.action);
 }
 
 void fill(QMenu* menu, const std::vector<MenuEntry>& items) {
-  for (const MenuEntry& item : items) addItem(menu, item);
+  QActionGroup* choice = nullptr;
+  for (const MenuEntry& item : items) {
+    if (!item.on) choice = nullptr;
+    if (item.on && !choice) choice = new QActionGroup(menu);
+    addItem(menu, item, choice);
+    // One that stands alone is on or off by itself.
+    if (choice) choice->setExclusive(choice->actions().size() > 1);
+  }
 }
 
 }  // namespace
@@ -70,6 +82,11 @@ void popUpMenu(const std::vector<MenuEntry>& items, QPoint place) {
   menu->setStyle(style);
   fill(menu, items);
   menu->popup(place);
+  if (!Theme::create(nullptr, nullptr)->focusShown()) return;
+  // Whoever steers by keyboard starts on the first item. By its key, for the call would open the submenu,
+  // too.
+  QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+  QCoreApplication::sendEvent(menu, &down);
 }
 
 }  // namespace brimle

@@ -33,23 +33,25 @@ constexpr ModifierRow kModifiers[] = {
     {Qt::MetaModifier, Modifier::control},
 };
 
-/// Where the letters of the commands are on a Latin keyboard: evdev codes, 8 more as X11 and Wayland count
-/// them.
+/// Where the keys of the commands are on a Latin keyboard: evdev codes, 8 more as X11 and Wayland count them.
 struct PlaceRow {
   quint32 scanCode;
   Qt::Key key;
+  bool always = false;  ///< also where the key types something Latin
 };
 constexpr PlaceRow kPlaces[] = {
-    {38, Qt::Key_A}, {54, Qt::Key_C}, {55, Qt::Key_V}, {52, Qt::Key_Z}, {24, Qt::Key_Q}};
+    {38, Qt::Key_A},     {54, Qt::Key_C},       {55, Qt::Key_V},       {52, Qt::Key_Z},
+    {24, Qt::Key_Q},     {57, Qt::Key_N},       {58, Qt::Key_M},       {53, Qt::Key_X},
+    {61, Qt::Key_Slash}, {10, Qt::Key_1, true}, {11, Qt::Key_2, true}, {12, Qt::Key_3, true},
+};
 
 /// X11's lock bit, which Qt hands through with the native modifiers.
 constexpr quint32 kCapsLock = 1u << 1;
 
 int keyOf(const QKeyEvent& event) {
   const bool isLatin = event.key() < 0x80 || event.key() >= Qt::Key_Escape;
-  if (isLatin) return event.key();
   for (const PlaceRow& row : kPlaces) {
-    if (row.scanCode == event.nativeScanCode()) return row.key;
+    if (row.scanCode == event.nativeScanCode() && (row.always || !isLatin)) return row.key;
   }
   return event.key();
 }
@@ -79,6 +81,24 @@ KeyPress keyPressOf(const QKeyEvent& event) {
   }
   if (event.nativeModifiers() & kCapsLock) press.modifiers = press.modifiers | Modifier::capsLock;
   return press;
+}
+
+std::optional<AltTap::Input> altInputOf(const QEvent& event) {
+  switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::Wheel:
+    case QEvent::FocusOut: return AltTap::Input::other;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease: break;
+    default: return std::nullopt;
+  }
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  if (key.isAutoRepeat()) return std::nullopt;
+  const bool isAlt = key.key() == Qt::Key_Alt;
+  if (event.type() == QEvent::KeyRelease)
+    return isAlt ? std::optional(AltTap::Input::altReleased) : std::nullopt;
+  const bool alone = !(key.modifiers() & ~Qt::AltModifier);
+  return isAlt && alone ? AltTap::Input::altPressed : AltTap::Input::other;
 }
 
 }  // namespace brimle

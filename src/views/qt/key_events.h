@@ -3,7 +3,9 @@
 #pragma once
 
 #include <QKeyEvent>
+#include <optional>
 
+#include "control/alt_tap.h"
 #include "control/keys.h"
 
 namespace brimle {
@@ -12,7 +14,10 @@ namespace brimle {
 Modifiers modifiersOf(Qt::KeyboardModifiers modifiers);
 
 /// Letters count by what they type; on a keyboard whose letters are not Latin, by where they are on a Latin
-/// one.
+/// one. Digits always count by where they are, for some keyboards type them with Shift only.
 KeyPress keyPressOf(const QKeyEvent& event);
+
+/// What an event of the window means to a tap of Alt; nothing where it leaves the tap as it is.
+std::optional<AltTap::Input> altInputOf(const QEvent& event);
 
 }  // namespace brimle

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QQuickItem>
 #include <QScreen>
+#include <algorithm>
 
 #include "base/limits.h"
 #include "views/qt/convert.h"
@@ -27,13 +28,13 @@ Rect rectOf(const QRect& rect) {
 
 MainWindow::MainWindow(Today::Parts parts, Pasteboard& pasteboard)
     : store_(parts.store),
+      pasteboard_(pasteboard),
       keys_(parts.store, parts.sel, parts.ui, pasteboard, parts.todayFocusAdd),
       clickAway_(parts.sel, parts.ui, parts.time),
-      todayFocusAdd_(parts.todayFocusAdd),
       theme_(parts.ui),
       texts_(parts.ui),
       today_(parts),
-      archive_(parts.store, parts.sel, parts.ui, parts.archive),
+      archive_(parts.store, parts.sel, parts.ui, parts.archive, parts.todayFocusAdd),
       shortcuts_(engine_, parts.ui, parts.store.entryContext().region) {
   engine_.setInitialProperties({{QStringLiteral("today"), QVariant::fromValue(&today_)},
                                 {QStringLiteral("archive"), QVariant::fromValue(&archive_)}});
@@ -41,6 +42,7 @@ MainWindow::MainWindow(Today::Parts parts, Pasteboard& pasteboard)
   if (engine_.rootObjects().isEmpty()) qFatal("the window could not be made");
   window_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().constFirst());
   window_->installEventFilter(this);
+  connect(&today_, &Today::menuRequested, this, &MainWindow::openMenu);
   connect(&theme_, &Theme::changed, this, [this] { QApplication::setPalette(theme_.palette()); });
   QApplication::setPalette(theme_.palette());
   resizing_.setDuration(kResizing);
@@ -53,46 +55,102 @@ MainWindow::~MainWindow() {
   window_->removeEventFilter(this);
 }
 
-void MainWindow::bringForward(const QByteArray& activationToken) {
-  if (!activationToken.isEmpty()) qputenv("XDG_ACTIVATION_TOKEN", activationToken);
-  window_->show();
-  window_->raise();
-  window_->requestActivate();
-  todayFocusAdd_.notify();
-}
-
 Rect MainWindow::frame() const {
-  return rectOf(window_->geometry());
+  if (resizing_.state() == QVariantAnimation::Running) return rectOf(resizing_.endValue().toRect());
+  return rectOf(window_->isVisible() || shownAt_.isNull() ? window_->geometry() : shownAt_);
 }
 
-void MainWindow::setFrame(const Rect& frame, bool animated) {
+void MainWindow::setFrame(const Rect& frame) {
   const QRect target = QRectF(frame.x, frame.y, frame.width, frame.height).toRect();
   resizing_.stop();
-  if (!animated || theme_.reduceMotion() || !window_->isVisible()) return window_->setGeometry(target);
+  shownAt_ = target;
+  if (theme_.reduceMotion() || !window_->isVisible()) return window_->setGeometry(target);
   resizing_.setStartValue(window_->geometry());
   resizing_.setEndValue(target);
   resizing_.start();
 }
 
-std::optional<Rect> MainWindow::visibleScreen() const {
-  const QScreen* screen = window_->screen();
-  if (!screen) screen = QGuiApplication::primaryScreen();
-  if (!screen) return std::nullopt;
-  return rectOf(screen->availableGeometry());
+std::vector<Rect> MainWindow::screens() const {
+  const QScreen* first = window_->screen() ? window_->screen() : QGuiApplication::primaryScreen();
+  std::vector<Rect> screens;
+  if (first) screens.push_back(rectOf(first->availableGeometry()));
+  for (const QScreen* screen : QGuiApplication::screens()) {
+    if (screen != first) screens.push_back(rectOf(screen->availableGeometry()));
+  }
+  return screens;
+}
+
+/// A window manager places a window that was hidden anew, unless it is told where it was.
+void MainWindow::orderFront() {
+  const bool wasHidden = !window_->isVisible();
+  if (wasHidden && !shownAt_.isNull()) window_->setGeometry(shownAt_);
+  if (window_->windowStates().testFlag(Qt::WindowMinimized)) {
+    window_->showNormal();
+  } else {
+    window_->show();
+  }
+  if (wasHidden && reports_.shown) reports_.shown(*window_);
+  window_->raise();
+  window_->requestActivate();
+}
+
+void MainWindow::minimise() {
+  window_->showMinimized();
+}
+
+void MainWindow::refreshPaper() {
+  emit theme_.changed();
+}
+
+bool MainWindow::edit(EditCommand command) {
+  struct Row {
+    EditCommand command;
+    const char* method;
+    const char* condition;  ///< the property without which the field leaves the command to others
+  };
+  static constexpr Row kRows[] = {
+      {EditCommand::undo, "undo", "canUndo"}, {EditCommand::redo, "redo", "canRedo"},
+      {EditCommand::cut, "cut", nullptr},     {EditCommand::copy, "copy", nullptr},
+      {EditCommand::paste, "paste", nullptr}, {EditCommand::selectAll, "selectAll", nullptr},
+  };
+  QQuickItem* field = window_->activeFocusItem();
+  if (!field || !keyboardPlace().inTextField) return false;
+  const Row& row = *std::ranges::find(kRows, command, &Row::command);
+  if (row.condition && !field->property(row.condition).toBool()) return false;
+  if (command == EditCommand::paste && pasteTooLong(pasteboard_.string().value_or(""))) return true;
+  return QMetaObject::invokeMethod(field, row.method);
+}
+
+/// More than a field can show becomes tasks.
+bool MainWindow::pasteTooLong(const std::string& text) {
+  if (isShownWhole(text)) return false;
+  store_.addLines(text, false);
+  return true;
 }
 
 bool MainWindow::eventFilter(QObject*, QEvent* event) {
+  if (const auto input = altInputOf(*event); input && altTap_.ended(*input)) openMenuByKey();
+  return filterEvent(event);
+}
+
+bool MainWindow::filterEvent(QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress: return handleKey(*static_cast<QKeyEvent*>(event));
     case QEvent::MouseButtonPress: theme_.setFocusShown(false); return false;
     case QEvent::MouseButtonRelease: {
       const auto& mouse = *static_cast<QMouseEvent*>(event);
-      if (mouse.button() == Qt::MiddleButton) return pasteSelectionAsTasks();
       if (mouse.button() == Qt::LeftButton) clickAway_.mouseUp(modifiersOf(mouse.modifiers()));
-      return false;
+      // A middle click pastes what is selected elsewhere.
+      return mouse.button() == Qt::MiddleButton && keyboardPlace().inTextField &&
+             pasteTooLong(fromQt(QGuiApplication::clipboard()->text(QClipboard::Selection)));
     }
+    case QEvent::Move:
+    case QEvent::Resize:
+      if (window_->isVisible() && reports_.frameChanged) reports_.frameChanged();
+      return false;
     case QEvent::Close:
-      if (closed_) closed_();
+      shownAt_ = window_->geometry();
+      if (reports_.closed) reports_.closed();
       return false;
     default: return false;
   }
@@ -100,7 +158,7 @@ bool MainWindow::eventFilter(QObject*, QEvent* event) {
 
 bool MainWindow::handleKey(const QKeyEvent& event) {
   const KeyPress key = keyPressOf(event);
-  return handleShortcut(key) || filterKey(key) || handleFocusKey(event);
+  return filterKey(key) || (reports_.key && reports_.key(key)) || handleFocusKey(event);
 }
 
 /// A key that the rows use may move the selection out of sight: the list follows it.
@@ -117,7 +175,7 @@ bool MainWindow::handleFocusKey(const QKeyEvent& event) {
   const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
   switch (event.key()) {
     case Qt::Key_Menu: return askForMenu();
-    case Qt::Key_F10: return shift && plain && askForMenu();
+    case Qt::Key_F10: return plain && (shift ? askForMenu() : openMenuByKey());
     case Qt::Key_F6: return plain && (moveFocus(!shift), true);
     case Qt::Key_Tab:
     case Qt::Key_Backtab:
@@ -130,7 +188,20 @@ bool MainWindow::handleFocusKey(const QKeyEvent& event) {
 
 bool MainWindow::askForMenu() {
   if (keyboardPlace().inTextField) return false;
+  theme_.setFocusShown(true);
   return archive_.showing() ? archive_.askForMenu() : today_.askForMenu();
+}
+
+bool MainWindow::openMenuByKey() {
+  theme_.setFocusShown(true);
+  openMenu();
+  return true;
+}
+
+void MainWindow::openMenu() {
+  const auto* button = window_->findChild<QQuickItem*>(QStringLiteral("menu"));
+  menuButton_.popUp(button ? button->mapToGlobal(QPointF(0, button->height() + 4)).toPoint()
+                           : window_->position());
 }
 
 /// Unlike Tab, which in the entry field is a character, this leads out of every control.
@@ -140,37 +211,6 @@ void MainWindow::moveFocus(bool forward) {
   theme_.setFocusShown(true);
   item->nextItemInFocusChain(forward)->forceActiveFocus(forward ? Qt::TabFocusReason
                                                                 : Qt::BacktabFocusReason);
-}
-
-/// Commands of the whole program. A text field that can undo or redo its own typing comes first.
-bool MainWindow::handleShortcut(const KeyPress& key) {
-  constexpr Modifiers shiftCommand = Modifier::shift | Modifier::command;
-  if (key.characters == "z" && key.modifiers == Modifier::command && !fieldTakes("canUndo")) {
-    store_.undo();
-  } else if (key.characters == "z" && key.modifiers == shiftCommand && !fieldTakes("canRedo")) {
-    store_.redo();
-  } else if (key.characters == "q" && key.modifiers == Modifier::command) {
-    QCoreApplication::quit();
-  } else if (key.characters == "/" && key.modifiers == Modifier::command) {
-    shortcuts_.show();
-  } else {
-    return false;
-  }
-  return true;
-}
-
-/// A middle click pastes what is selected elsewhere; more than a field can show becomes tasks instead.
-bool MainWindow::pasteSelectionAsTasks() {
-  if (!keyboardPlace().inTextField) return false;
-  const std::string text = fromQt(QGuiApplication::clipboard()->text(QClipboard::Selection));
-  if (isShownWhole(text)) return false;
-  store_.addLines(text, false);
-  return true;
-}
-
-bool MainWindow::fieldTakes(const char* property) const {
-  const QQuickItem* focused = window_->activeFocusItem();
-  return focused && focused->property(property).toBool();
 }
 
 KeyboardPlace MainWindow::keyboardPlace() const {

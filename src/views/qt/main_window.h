@@ -1,19 +1,19 @@
-// The main window: loads its QML, forwards the keys that belong to the whole window, shows and hides it.
-// Owns the objects that QML sees; knows the logic only through ContentView and Store.
+// The main window: loads its QML, forwards the keys that belong to the whole window, shows and hides it,
+// moves it. Owns the objects that QML sees; knows the logic only through the parts of Today.
 #pragma once
 
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 #include <QVariantAnimation>
 #include <functional>
-#include <memory>
-#include <optional>
 
-#include "base/rect.h"
+#include "control/alt_tap.h"
 #include "control/click_away.h"
 #include "control/key_filter.h"
+#include "platform/app_window.h"
 #include "platform/pasteboard.h"
 #include "views/qt/archive_screen.h"
+#include "views/qt/menu_button.h"
 #include "views/qt/shortcuts_card.h"
 #include "views/qt/texts.h"
 #include "views/qt/theme.h"
@@ -21,57 +21,69 @@
 
 namespace brimle {
 
-class MainWindow : public QObject {
+class MainWindow : public QObject, public AppWindow {
   Q_OBJECT
 
  public:
+  /// What the window tells the program.
+  struct Reports {
+    /// A key press that the rows did not use; whether it was used.
+    std::function<bool(const KeyPress&)> key;
+    /// The window was moved or resized.
+    std::function<void()> frameChanged;
+    /// The window was shown, anew as far as the window manager is concerned.
+    std::function<void(QWindow&)> shown;
+    std::function<void()> closed;
+  };
+
   /// All that the parts refer to, and the clipboard, must outlive the window.
   MainWindow(Today::Parts parts, Pasteboard& pasteboard);
   ~MainWindow() override;
 
   Theme& theme() { return theme_; }
   ShortcutsCard& shortcuts() { return shortcuts_; }
+  MenuHost& menus() { return menuButton_; }
+  void setReports(Reports reports) { reports_ = std::move(reports); }
 
-  /// Shows the window, in front of others and with the keyboard in the entry field.
-  void bringForward(const QByteArray& activationToken = {});
-
-  /// Where the window is, in points of the whole desktop.
-  Rect frame() const;
-  /// Moves and resizes the window, over a short time where motion is welcome.
-  void setFrame(const Rect& frame, bool animated);
-  /// What panels leave free of the screen the window is on; nothing where there is no screen.
-  std::optional<Rect> visibleScreen() const;
-
-  /// What closing does beyond hiding the window; nothing unless set.
-  void onClose(std::function<void()> action) { closed_ = std::move(action); }
+  Rect frame() const override;
+  void setFrame(const Rect& frame) override;
+  std::vector<Rect> screens() const override;
+  void orderFront() override;
+  void minimise() override;
+  void refreshPaper() override;
+  bool edit(EditCommand command) override;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  bool filterEvent(QEvent* event);
   bool handleKey(const QKeyEvent& event);
-  bool handleShortcut(const KeyPress& key);
   bool handleFocusKey(const QKeyEvent& event);
   bool filterKey(const KeyPress& key);
   bool askForMenu();
+  void openMenu();
+  bool openMenuByKey();
   void moveFocus(bool forward);
-  bool pasteSelectionAsTasks();
-  bool fieldTakes(const char* property) const;
+  bool pasteTooLong(const std::string& text);
   KeyboardPlace keyboardPlace() const;
 
   Store& store_;
+  Pasteboard& pasteboard_;
   KeyFilter keys_;
   ClickAway clickAway_;
-  Signal<>& todayFocusAdd_;
+  AltTap altTap_;
   Theme theme_;
   Texts texts_;
   Today today_;
   ArchiveScreen archive_;
   QQmlApplicationEngine engine_;
   ShortcutsCard shortcuts_;
+  MenuButton menuButton_;
   QQuickWindow* window_ = nullptr;
   QVariantAnimation resizing_;
-  std::function<void()> closed_;
+  QRect shownAt_;  ///< where the window was when it was last hidden
+  Reports reports_;
 };
 
 }  // namespace brimle

@@ -15,7 +15,7 @@ ShortcutsCard::ShortcutsCard(QQmlEngine& engine, UIState& ui, Region region)
 
 QVariantList ShortcutsCard::sections() const {
   QVariantList sections;
-  for (const ShortcutsSection& section : shortcutsCard(region_)) {
+  for (const ShortcutsSection& section : shortcutsCard(region_, fromQt(hotKey_))) {
     QVariantList rows;
     for (const auto& row : section.rows) {
       rows.append(QVariantMap{{QStringLiteral("keys"), toQt(row.keys)},
@@ -28,8 +28,19 @@ QVariantList ShortcutsCard::sections() const {
   return sections;
 }
 
-void ShortcutsCard::show() {
+void ShortcutsCard::setHotKey(const std::string& key) {
+  hotKey_ = toQt(key);
+  emit changed();
+}
+
+void ShortcutsCard::show(const std::string& title) {
   if (!panel_) panel_.reset(makePanel());
+  panel_->setTitle(toQt(title));
+  if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+    QRect place(QPoint(), panel_->size());
+    place.moveCenter(screen->availableGeometry().center());
+    panel_->setPosition(place.topLeft());
+  }
   panel_->show();
   panel_->raise();
   panel_->requestActivate();
@@ -40,9 +51,6 @@ QQuickWindow* ShortcutsCard::makePanel() {
   auto* panel = qobject_cast<QQuickWindow*>(
       component.createWithInitialProperties({{QStringLiteral("card"), QVariant::fromValue(this)}}));
   if (!panel) qFatal("the shortcuts panel could not be made");
-  if (const QScreen* screen = QGuiApplication::primaryScreen()) {
-    panel->setPosition(screen->availableGeometry().center() - panel->geometry().center() + panel->position());
-  }
   return panel;
 }
 

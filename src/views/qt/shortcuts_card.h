@@ -9,11 +9,12 @@
 #include <memory>
 
 #include "i18n/region.h"
+#include "platform/shortcuts_panel.h"
 #include "prefs/ui_state.h"
 
 namespace brimle {
 
-class ShortcutsCard : public QObject {
+class ShortcutsCard : public QObject, public ShortcutsPanel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("made by the program")
@@ -26,8 +27,10 @@ class ShortcutsCard : public QObject {
 
   QVariantList sections() const;
 
-  /// Brings the panel to the front, with the keyboard; the first time in the middle of the screen.
-  void show();
+  void show(const std::string& title) override;
+
+  /// Which key stands for the hot key on this desktop, as the user reads it; empty where none does.
+  void setHotKey(const std::string& key);
 
  signals:
   void changed();
@@ -37,6 +40,7 @@ class ShortcutsCard : public QObject {
 
   QQmlEngine& engine_;
   const Region region_;
+  QString hotKey_;
   Subscription settings_;
   std::unique_ptr<QQuickWindow> panel_;
 };

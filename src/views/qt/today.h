@@ -95,6 +95,8 @@ class Today : public QObject {
   void showLead();
 
  signals:
+  /// The window's menu is asked for.
+  void menuRequested();
   void menuAsked(int row);
   void rowShown(int row);
   void changed();
