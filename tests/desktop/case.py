@@ -71,13 +71,12 @@ class DesktopCase(unittest.TestCase):
         return self._messages.read()
 
     def _end(self):
-        hands.letGo()  # where a test failed in the middle of a drag
         DESKTOP.end(self._program)
         messages = self._said()
         self._messages.close()
         for variable in ("XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME"):
-            for folder in Path(os.environ[variable]).glob("[Bb]rimle"):
-                shutil.rmtree(folder)
+            for entry in Path(os.environ[variable]).glob("[Bb]rimle"):
+                shutil.rmtree(entry) if entry.is_dir() else entry.unlink()
         self.assertNotIn("qrc:", messages, "a view complained")
 
     def until(self, condition, what, meanwhile=lambda: None):

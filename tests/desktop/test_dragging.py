@@ -20,6 +20,7 @@ class DraggingCase(DesktopCase):
     def takeHold(self, text):
         self.place = self.row(text).point()
         hands.takeHold(self.place)
+        self.addCleanup(hands.letGo)
 
     def dragOver(self, end, **lists):
         """Goes on with a drag until the pointer is over the middle of a row, then waits until the day is this."""
@@ -84,6 +85,7 @@ class DraggingText(DraggingCase):
         start = self.row("milk").point()
         end = (self.field.point()[0], start[1])
         hands.takeHold(start)
+        self.addCleanup(hands.letGo)
         hands.glide(start, end)
         self.until(lambda: self.title() == "Text, answered", "the drag was welcome", trembling(end))
         hands.letGo()
@@ -94,6 +96,7 @@ class DraggingText(DraggingCase):
         """Drags the other program's text to a place; it is its first drag, or its second and so on."""
         start = self.field.point(0.06, 0.06)
         hands.takeHold(start)
+        self.addCleanup(hands.letGo)
         hands.glide(start, place)
         self.until(lambda: self.title() == f"Text, welcome {drag}", "the drop was welcome", trembling(place))
         hands.letGo()
