@@ -8,7 +8,7 @@ from pathlib import Path
 from session import Session
 from waiting import waitUntil
 
-WIDTH, HEIGHT = 1280, 800  # of the screen, in pixels
+WIDTH, HEIGHT = map(int, os.environ.get("BRIMLE_SCREEN", "1280x800").split("x"))  # in pixels
 
 
 class Desktop(Session):
