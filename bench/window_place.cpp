@@ -1,5 +1,6 @@
 #include "window_place.h"
 
+#include <QEventLoop>
 #include <QGuiApplication>
 #include <QTest>
 #include <QTimer>
@@ -15,18 +16,21 @@ using Clock = std::chrono::steady_clock;
 /// No frame for so long: nothing is about to be painted.
 constexpr std::chrono::milliseconds kQuiet(12);
 constexpr std::chrono::seconds kMostWaiting(20);
+enum : int { kDone, kTooLate };
 
-/// Handles events until `done`, and looks again every millisecond; false where that takes too long.
+/// Handles events until `done`, and looks again every millisecond; false where that takes too long. In a loop
+/// as the program's: outside of one, objects that are to be deleted later stay.
 template <class Done>
 bool handleEventsUntil(Done done) {
-  QTimer look;
-  look.start(std::chrono::milliseconds(1));
   const auto limit = Clock::now() + kMostWaiting;
-  while (!done()) {
-    if (Clock::now() > limit) return false;
-    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-  }
-  return true;
+  QEventLoop loop;
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, &loop, [&] {
+    if (done()) loop.exit(kDone);
+    if (Clock::now() > limit) loop.exit(kTooLate);
+  });
+  look.start(std::chrono::milliseconds(1));
+  return loop.exec() == kDone;
 }
 
 QQuickItem* search(QQuickItem* item, const std::function<bool(const QQuickItem&)>& wanted) {

@@ -2,7 +2,9 @@
 #include <QApplication>
 #include <QIcon>
 #include <QQuickWindow>
+#include <QScreen>
 #include <QTimer>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -123,7 +125,7 @@ int run(int argc, char** argv) {
   QtInstance instance({.activate = reopen, .newTask = [&](const std::string& token) {
                          if (delegate) delegate->focusQuickAdd(token);
                        }});
-  const bool reachable = instance.announce();
+  instance.announce();
   QtNotificationCenter notifications(time, files, folders.state / "brimle", reopen);
 
   Store store({time, files, desktop, notifications}, regionOf(locale.region), dataFolder);
@@ -143,14 +145,19 @@ int run(int argc, char** argv) {
                      .shown = [](QWindow& shown) { showOnAllWorkspaces(shown); },
                      // A window that nobody can ask for again must not be closed into nowhere.
                      .closed =
-                         [reachable] {
-                           if (!reachable) QCoreApplication::quit();
+                         [&instance] {
+                           if (!instance.isReachable()) QCoreApplication::quit();
                          }});
   QObject::connect(&application, &QApplication::applicationStateChanged, &application, [&](auto state) {
     if (state == Qt::ApplicationActive) app.becameActive();
   });
-  QObject::connect(&application, &QApplication::screenRemoved, &application,
-                   [&] { QTimer::singleShot(0, &application, [&] { app.screensChanged(); }); });
+  const auto screensChanged = [&] { QTimer::singleShot(0, &application, [&] { app.screensChanged(); }); };
+  const auto watchScreen = [&](QScreen* screen) {
+    QObject::connect(screen, &QScreen::availableGeometryChanged, &application, screensChanged);
+  };
+  std::ranges::for_each(QApplication::screens(), watchScreen);
+  QObject::connect(&application, &QApplication::screenAdded, &application, watchScreen);
+  QObject::connect(&application, &QApplication::screenRemoved, &application, screensChanged);
   QObject::connect(&application, &QApplication::aboutToQuit, &application, [&] { app.willTerminate(); });
   const auto tellHotKey = [&] { window.shortcuts().setHotKey(hotKey->keyInForce()); };
   const Subscription hotKeyTold = hotKey->observe(tellHotKey);

@@ -117,7 +117,7 @@ TEST(WindowFrame, IsReadAsItWasWritten) {
   EXPECT_EQ(readFrame(frameText({infinite, 0, 300, 400})), std::nullopt);
 }
 
-TEST(WindowFrame, OnNoScreenIsBroughtOntoTheFirst) {
+TEST(WindowFrame, OnNoScreenOrLargerThanAllIsBroughtOntoOne) {
   const Rect left{-1000, 0, 1000, 600};
   const std::vector<Rect> screens{kScreen, left};
   for (const auto& [frame, shown] :
@@ -125,7 +125,10 @@ TEST(WindowFrame, OnNoScreenIsBroughtOntoTheFirst) {
                                                     {{1900, 1000, 300, 400}, {1900, 1000, 300, 400}},
                                                     {{1920, 100, 300, 400}, {1620, 100, 300, 400}},
                                                     {{-300, 600, 300, 400}, {0, 600, 300, 400}},
-                                                    {{5000, -5000, 3000, 400}, {0, 30, 1920, 400}}}) {
+                                                    {{5000, -5000, 3000, 400}, {0, 30, 1920, 400}},
+                                                    {{-1000, 100, 2920, 400}, {-1000, 100, 2920, 400}},
+                                                    {{-500, 100, 99'999, 400}, {0, 100, 1920, 400}},
+                                                    {{-900, 100, 300, 99'999}, {-900, 0, 300, 600}}}) {
     EXPECT_EQ(ontoAScreen(frame, screens), shown);
     EXPECT_EQ(ontoAScreen(frame, {}), frame);
   }

@@ -15,14 +15,19 @@ _TIMEOUT = 10000  # milliseconds
 
 
 @cache
-def _bus():
+def address():
+    """Where the accessibility bus is. Programs that find this in their environment need no session bus to meet it."""
     session = Gio.bus_get_sync(Gio.BusType.SESSION)
     session.set_exit_on_close(False)
-    address = session.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None,
-                                Gio.DBusCallFlags.NONE, _TIMEOUT).unpack()[0]
+    return session.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None,
+                             Gio.DBusCallFlags.NONE, _TIMEOUT).unpack()[0]
+
+
+@cache
+def _bus():
     flags = Gio.DBusConnectionFlags
     return Gio.DBusConnection.new_for_address_sync(
-        address, flags.AUTHENTICATION_CLIENT | flags.MESSAGE_BUS_CONNECTION, None, None)
+        address(), flags.AUTHENTICATION_CLIENT | flags.MESSAGE_BUS_CONNECTION, None, None)
 
 
 def _call(owner, path, method, arguments=None):

@@ -14,7 +14,7 @@ import hands
 from controls import MenuWatch, applicationOf
 from day_file import Day
 from desktop import DESKTOP
-from waiting import waitUntil
+from waiting import DEADLINE, waitUntil
 
 PROGRAM = os.environ.get("BRIMLE_PROGRAM", Path(__file__).parents[2] / "build/bin/brimle")
 PICTURES = Path(PROGRAM).parents[1] / "desktop-tests"
@@ -38,24 +38,42 @@ class DesktopCase(unittest.TestCase):
     def start(self, *today, **lists):
         """Starts the program on a day with these lists and waits until its entry field has the keyboard."""
         self.day = Day(list(today), **lists)
-        self._folder = Path(os.environ["XDG_DATA_HOME"]) / "Brimle"
-        self._file = self._folder / "today.json"
-        self._folder.mkdir(exist_ok=True)
-        self._file.write_text(day_file.encoded(self.day, dayKey()), encoding="utf-8")
-        hands.moveTo(hands.NOWHERE)
-        self._messages = (DESKTOP.home / "messages").open("w+", encoding="utf-8")
-        self._program = DESKTOP.start(PROGRAM, stderr=self._messages)
-        self.addCleanup(self._end)
+        self._launch(os.environ)
         self.menus = MenuWatch()
         self.addCleanup(self.menus.end)
         self.app = self.until(lambda: applicationOf(self._program), "the program was on the accessibility bus")
         self.window = self.app.find("window", "Brimle")
         self.waitForFocus(ADD)
 
-    def _end(self):
-        DESKTOP.end(self._program)
+    def startElsewhere(self, *today, **environment):
+        """Starts the program on a day with this list, in an environment in which it may be met by the keyboard alone:
+        other buses than those of the tests. Waits until its window has the keyboard."""
+        self.day = Day(list(today))
+        self._launch(os.environ | environment)
+        self.until(lambda: hands.keyboardOwner() == self._program.pid, "the window had the keyboard")
+
+    def _launch(self, environment):
+        self._folder = Path(os.environ["XDG_DATA_HOME"]) / "Brimle"
+        self._file = self._folder / "today.json"
+        self._folder.mkdir(exist_ok=True)
+        self._file.write_text(day_file.encoded(self.day, dayKey()), encoding="utf-8")
+        hands.moveTo(hands.NOWHERE)
+        self._messages = (DESKTOP.home / "messages").open("w+", encoding="utf-8")
+        self._program = DESKTOP.start(PROGRAM, stderr=self._messages, env=environment)
+        self.addCleanup(self._end)
+
+    def waitUntilEnded(self):
+        """Its exit status, as soon as it has ended by itself."""
+        return self._program.wait(DEADLINE)
+
+    def _said(self):
         self._messages.seek(0)
-        messages = self._messages.read()
+        return self._messages.read()
+
+    def _end(self):
+        hands.letGo()  # where a test failed in the middle of a drag
+        DESKTOP.end(self._program)
+        messages = self._said()
         self._messages.close()
         for variable in ("XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME"):
             for folder in Path(os.environ[variable]).glob("[Bb]rimle"):
@@ -65,7 +83,8 @@ class DesktopCase(unittest.TestCase):
     def until(self, condition, what, meanwhile=lambda: None):
         """Waits until a condition holds, doing something before every look at it where that is given."""
         def conditionWhileItRuns():
-            self.assertIsNone(self._program.poll(), "the program ended")
+            if self._program.poll() is not None:
+                self.fail(f"the program ended with {self._program.returncode}; it said:\n{self._said()}")
             meanwhile()
             return condition()
         try:

@@ -68,3 +68,30 @@ def glide(start, end):
     for step in range(1, steps + 1):
         words += ["mousemove", *(round(a + (b - a) * step / steps) for a, b in zip(start, end))]
     _xdotool(*words)
+
+
+def keyboardOwner():
+    """The process whose window has the keyboard; nothing where no window has it."""
+    answer = subprocess.run(["xdotool", "getwindowfocus", "getwindowpid"], capture_output=True, text=True, check=False,
+                            timeout=30)
+    return int(answer.stdout) if answer.returncode == 0 and answer.stdout.strip() else None
+
+
+def windowOf(process):
+    """The window of a program, as X numbers it; nothing while none is in sight."""
+    answer = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(process.pid)], capture_output=True, text=True,
+                            check=False, timeout=30)
+    return answer.stdout.split()[0] if answer.stdout else None
+
+
+def focus(window):
+    """Gives the keyboard to a window where there is no window manager to do so."""
+    _xdotool("windowfocus", window)
+
+
+def boxOf(window):
+    """Left, top, width, height, in pixels of the screen."""
+    answer = subprocess.run(["xdotool", "getwindowgeometry", "--shell", window], capture_output=True, text=True, check=True,
+                            timeout=30)
+    values = dict(line.split("=") for line in answer.stdout.split())
+    return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))

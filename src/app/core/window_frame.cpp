@@ -27,6 +27,15 @@ bool overlap(const Rect& a, const Rect& b) {
   return a.x < b.right() && b.x < a.right() && a.y < b.bottom() && b.y < a.bottom();
 }
 
+/// Whether a frame is no larger than all screens together.
+bool fitsOn(std::span<const Rect> screens, const Rect& frame) {
+  const double left = std::ranges::min(screens, {}, &Rect::x).x;
+  const double top = std::ranges::min(screens, {}, &Rect::y).y;
+  const double right = std::ranges::max(screens, {}, &Rect::right).right();
+  const double bottom = std::ranges::max(screens, {}, &Rect::bottom).bottom();
+  return frame.width <= right - left && frame.height <= bottom - top;
+}
+
 }  // namespace
 
 std::string frameText(const Rect& frame) {
@@ -55,9 +64,10 @@ std::optional<Rect> readFrame(std::string_view text) {
 }
 
 Rect ontoAScreen(const Rect& frame, std::span<const Rect> screens) {
-  const bool isOnOne =
-      std::ranges::any_of(screens, [&](const Rect& screen) { return overlap(frame, screen); });
-  return isOnOne || screens.empty() ? frame : constrainToScreen(frame, screens.front());
+  if (screens.empty()) return frame;
+  const auto seen = std::ranges::find_if(screens, [&](const Rect& screen) { return overlap(frame, screen); });
+  if (seen == screens.end()) return constrainToScreen(frame, screens.front());
+  return fitsOn(screens, frame) ? frame : constrainToScreen(frame, *seen);
 }
 
 }  // namespace brimle

@@ -18,7 +18,8 @@ std::string frameText(const Rect& frame);
 /// Reads any bytes; nothing where they are of another form or name no place that a desktop could have.
 std::optional<Rect> readFrame(std::string_view text);
 
-/// Brings a frame that lies on none of the screens onto the first of them. Unchanged where there is none.
+/// Brings a frame that lies on none of the screens onto the first of them, and one that is larger than all of
+/// them together onto one that it touches. Unchanged where there is no screen.
 Rect ontoAScreen(const Rect& frame, std::span<const Rect> screens);
 
 }  // namespace brimle

@@ -3,6 +3,8 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 #include <QEventLoop>
 #include <QTimer>
@@ -49,17 +51,27 @@ bool waitForService(const QDBusConnection& bus) {
 
 QtInstance::QtInstance(Requests requests) : requests_(std::move(requests)) {}
 
-bool QtInstance::announce() {
+/// A name that somebody else owns is not waited for.
+void QtInstance::announce() {
   QDBusConnection bus = QDBusConnection::sessionBus();
-  if (!bus.isConnected()) return false;
+  if (!bus.isConnected()) return;
   bus.registerObject(kPath, this, QDBusConnection::ExportAllSlots);
   QDBusMessage request = QDBusMessage::createMethodCall(
       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("RequestName"));
   constexpr uint doNotQueue = 4;
   request << QString::fromLatin1(kService) << doNotQueue;
-  bus.asyncCall(request);
-  return true;
+  auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(request), this);
+  connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+    watcher->deleteLater();
+    constexpr uint primaryOwner = 1;
+    const QDBusPendingReply<uint> reply = *watcher;
+    hasName_ = !reply.isError() && reply.value() == primaryOwner;
+  });
+}
+
+bool QtInstance::isReachable() const {
+  return hasName_ && QDBusConnection::sessionBus().isConnected();
 }
 
 void QtInstance::Activate(const QVariantMap& platformData) {

@@ -25,9 +25,10 @@ class QtInstance : public QObject {
 
   explicit QtInstance(Requests requests);
 
-  /// Takes the application's name on the session bus, without waiting for the answer. False where there is no
-  /// bus.
-  bool announce();
+  /// Takes the application's name on the session bus, without waiting for the answer.
+  void announce();
+  /// Whether others can ask for this instance now: the bus is there, and has given it the name.
+  bool isReachable() const;
 
  public slots:
   void Activate(const QVariantMap& platformData);
@@ -36,6 +37,7 @@ class QtInstance : public QObject {
 
  private:
   const Requests requests_;
+  bool hasName_ = false;
 };
 
 /// Asks the instance that is running to come forward, waiting a moment for one that is only starting. False

@@ -1,0 +1,87 @@
+"""Others on the session bus, of the kind that nobody would wish for: each owns some names there and does with the calls
+it gets what the test says, answering nothing at all included.
+"""
+import os
+import socket
+import tempfile
+from pathlib import Path
+
+import dbus
+import dbus.bus
+import dbus.lowlevel
+from dbus.mainloop.glib import DBusGMainLoop
+
+_CALL, _HANDLED, _NOT_HANDLED = 1, dbus.lowlevel.HANDLER_RESULT_HANDLED, dbus.lowlevel.HANDLER_RESULT_NOT_YET_HANDLED
+_LOOP = DBusGMainLoop()  # that of `waiting`
+
+
+def silence(_call):
+    """The answer of one who never answers."""
+
+
+def refusal(call):
+    return dbus.lowlevel.ErrorMessage(call, "org.example.Error.Refused", "no")
+
+
+def reply(*arguments, signature):
+    """An answer that is these values, whoever asks for what."""
+    def answer(call):
+        message = dbus.lowlevel.MethodReturnMessage(call)
+        message.append(*arguments, signature=signature)
+        return message
+    return answer
+
+
+class Neighbour:
+    def __init__(self, *names, answer=silence):
+        self.calls = []  # the names of the methods that were called
+        self._bus = dbus.bus.BusConnection(os.environ["DBUS_SESSION_BUS_ADDRESS"], mainloop=_LOOP)
+        self._bus.set_exit_on_disconnect(False)
+        self._answer = answer
+        self._bus.add_message_filter(self._received)
+        for name in names:
+            got = self._bus.request_name(name, dbus.bus.NAME_FLAG_DO_NOT_QUEUE)
+            assert got == dbus.bus.REQUEST_NAME_REPLY_PRIMARY_OWNER, f"somebody else has the name {name}"
+
+    def signal(self, path, interface, name, *arguments, signature):
+        message = dbus.lowlevel.SignalMessage(path, interface, name)
+        message.append(*arguments, signature=signature)
+        self._bus.send_message(message)
+
+    def call(self, name, path, interface, method, *arguments, signature):
+        """Sends a call and does not wait for what comes of it."""
+        message = dbus.lowlevel.MethodCallMessage(name, path, interface, method)
+        message.append(*arguments, signature=signature)
+        self._bus.send_message(message)
+
+    def owner(self, name):
+        """The unique name of who owns a name; nothing where nobody does."""
+        return self._bus.get_name_owner(name) if self._bus.name_has_owner(name) else None
+
+    def end(self):
+        self._bus.close()
+
+    def _received(self, _bus, message):
+        if message.get_type() != _CALL:
+            return _NOT_HANDLED
+        self.calls.append(message.get_member())
+        answer = self._answer(message)
+        if answer is not None:
+            self._bus.send_message(answer)
+        return _HANDLED
+
+
+class SilentBus:
+    """A socket that takes connections and never says a word."""
+
+    def __init__(self):
+        self._folder = tempfile.TemporaryDirectory(prefix="brimle-bus-")
+        path = Path(self._folder.name) / "bus"
+        self._socket = socket.socket(socket.AF_UNIX)
+        self._socket.bind(str(path))
+        self._socket.listen()
+        self.address = f"unix:path={path}"
+
+    def end(self):
+        self._socket.close()
+        self._folder.cleanup()

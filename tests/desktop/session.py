@@ -1,0 +1,84 @@
+"""What a desktop of the tests consists of apart from its screen: a session bus, and folders that the user's own files
+stay out of. Each kind of desktop adds its display server. All of it is there until the process ends.
+"""
+import atexit
+import os
+import shutil
+import subprocess
+import tempfile
+import time
+from pathlib import Path
+
+FOLDERS = {"XDG_DATA_HOME": "data", "XDG_CONFIG_HOME": "config", "XDG_STATE_HOME": "state", "XDG_CACHE_HOME": "cache",
+           "XDG_RUNTIME_DIR": "run"}
+KEPT = ("PATH", "BRIMLE_PROGRAM", "ASAN_OPTIONS", "UBSAN_OPTIONS")  # of the environment of the tests
+
+
+def _zoneAroundNoon():
+    """A time zone in which it is about noon, so that no test meets midnight."""
+    return f"Etc/GMT{time.gmtime().tm_hour - 12:+d}"
+
+
+class Session:
+    platform = None  # the name of Qt's plugin for the display server
+
+    def __init__(self):
+        self.home = Path(tempfile.mkdtemp(prefix="brimle-desktop-"))
+        self.log = (self.home / "log").open("w+", encoding="utf-8")
+        self._started = []
+        atexit.register(self._end)
+        self._setEnvironment()
+        self.startScreen()
+        _, os.environ["DBUS_SESSION_BUS_ADDRESS"] = self.startBus()
+
+    def startScreen(self):
+        raise NotImplementedError
+
+    def picture(self, path):
+        """The screen as it is now, to look at why a test failed."""
+        raise NotImplementedError
+
+    def start(self, *command, **options):
+        """A program on this desktop; its messages go to the log unless `options`, those of Popen, say otherwise."""
+        process = subprocess.Popen(command, **({"stdout": self.log, "stderr": self.log} | options))
+        self._started.append(process)
+        return process
+
+    def end(self, process):
+        self._started.remove(process)
+        process.terminate()
+        try:
+            process.wait(10)
+        except subprocess.TimeoutExpired:
+            process.kill()
+            process.wait()
+
+    def startBus(self):
+        """Starts a session bus; its process and its address."""
+        return self.startAndRead("dbus-daemon", "--session", "--nofork", "--print-address={fd}")
+
+    def startAndRead(self, *command):
+        """A program's process and, once it is ready, the line that it writes to the descriptor that stands for {fd} in its
+        arguments."""
+        readEnd, writeEnd = os.pipe()
+        process = self.start(*(word.format(fd=writeEnd) for word in command), pass_fds=[writeEnd])
+        os.close(writeEnd)
+        with os.fdopen(readEnd) as pipe:
+            return process, pipe.readline().strip()
+
+    def _setEnvironment(self):
+        kept = {name: os.environ[name] for name in KEPT if name in os.environ}
+        os.environ.clear()
+        os.environ.update(kept, HOME=str(self.home), LC_ALL="C.UTF-8", TZ=_zoneAroundNoon(),
+                          QT_QPA_PLATFORM=self.platform, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+        time.tzset()
+        for variable, name in FOLDERS.items():
+            folder = self.home / name
+            folder.mkdir(mode=0o700)
+            os.environ[variable] = str(folder)
+
+    def _end(self):
+        for process in reversed(self._started[:]):
+            self.end(process)
+        self.log.close()
+        shutil.rmtree(self.home, ignore_errors=True)
