@@ -17,7 +17,7 @@ Store::Store(Ports ports, Region region, Path dataFolder)
       folder_(std::move(dataFolder)),
       fileURL_(folder_ / "today.json"),
       storedDate_(todayKey()) {
-  files_.removeLeftovers(fileURL_);
+  removeLeftovers();
   load();
   rolloverIfNeeded();
   scheduleCompletedSweep();

@@ -174,6 +174,7 @@ class Store {
   void assign(List Lists::*list, List value, Field field);
   void finishOperation();
 
+  void removeLeftovers();
   void load();
   void loadStarterTasks();
   void save();
