@@ -34,6 +34,11 @@ def nextKey(month, day):
     return (date if date > today else date.replace(year=today.year + 1)).isoformat()
 
 
+def textOf(row):
+    """The text of a row's task. What else is to be said of the row follows it in its name."""
+    return row.name.split(", ")[0]
+
+
 class DesktopCase(unittest.TestCase):
     # What a kind of case may have otherwise: the program's day, what its environment has besides, and the name that the
     # entry field has in its language.
@@ -113,15 +118,16 @@ class DesktopCase(unittest.TestCase):
 
     def rows(self):
         """The rows in sight, from the top down. The tree keeps them in the order in which they came."""
-        _, top, _, height = self.window.find("list").box
-        boxes = [(row, row.box) for row in self.window.all("row")]
+        shown = self.window.find("list")
+        _, top, _, height = shown.box
+        boxes = [(row, row.box) for row in shown.all("row")]
         seen = [(box[1], row) for row, box in boxes if top - 1 <= box[1] and box[1] + box[3] <= top + height + 1]
         return [row for _, row in sorted(seen, key=lambda placed: placed[0])]
 
     def row(self, text):
         """The row of a task, when all rows have come to rest."""
         self.waitForRest()
-        found = self.until(lambda: [row for row in self.rows() if row.name.split(", ")[0] == text],
+        found = self.until(lambda: [row for row in self.rows() if textOf(row) == text],
                            lambda: f"there was a row {text!r}; there are {[row.name for row in self.rows()]}")
         self.assertEqual(len(found), 1)
         return found[0]
@@ -147,12 +153,12 @@ class DesktopCase(unittest.TestCase):
         return True
 
     def expectRows(self, *texts):
-        self.until(lambda: [row.name.split(", ")[0] for row in self.rows()] == list(texts),
+        self.until(lambda: [textOf(row) for row in self.rows()] == list(texts),
                    lambda: f"the rows were {texts}; they are {[row.name for row in self.rows()]}")
 
     def selected(self):
         """The texts of the selected rows."""
-        return [row.name.split(", ")[0] for row in self.rows() if "selected" in row.name.split(", ")]
+        return [textOf(row) for row in self.rows() if "selected" in row.name.split(", ")]
 
     def expectSelected(self, *texts):
         self.until(lambda: self.selected() == list(texts), lambda: f"{texts} were selected; {self.selected()} are")
@@ -198,7 +204,8 @@ class DesktopCase(unittest.TestCase):
 
     def copied(self):
         """The text on the clipboard."""
-        answer = subprocess.run(["xclip", "-selection", "clipboard", "-out"], capture_output=True, check=False, timeout=30)
+        answer = subprocess.run(["xclip", "-selection", "clipboard", "-out"], capture_output=True, check=False,
+                                timeout=30)
         return answer.stdout.decode()
 
     def putOnClipboard(self, text):

@@ -5,7 +5,8 @@ import accessibility
 from gi.repository import GLib
 from waiting import waitUntil
 
-ROLES = {"button": "push button", "field": "text", "row": "list item", "window": "frame"}  # others are named as they are
+# What the tests call a role, where that is not what the bus calls it.
+ROLES = {"button": "push button", "field": "text", "row": "list item", "window": "frame"}
 
 
 class Control:
@@ -102,7 +103,8 @@ class MenuWatch:
         def found():
             items = [item for menu in self._open for item in Control(menu).all("menu item")]
             return next((item for item in items if item.name.split("\t")[0] == title), None)
-        return waitUntil(found, lambda: f"a menu had {title!r}; there are {[Control(menu)._tree() for menu in self._open]}")
+        return waitUntil(found, lambda: f"a menu had {title!r}; there are\n"
+                         + "\n".join(Control(menu)._tree() for menu in self._open))
 
     def waitUntilClosed(self):
         waitUntil(lambda: not self._open, "the menu was closed")

@@ -31,7 +31,8 @@ class Selecting(DesktopCase):
         self.select(("milk", None))
         self.expectSelected("milk")
         for key, selected in [("Down", ["bread"]), ("shift+Down", ["bread", "tea"]), ("shift+Up", ["bread"]),
-                              ("Up", ["milk"]), ("Up", ["milk"]), ("ctrl+a", ["milk", "bread", "tea"]), ("Down", ["tea"])]:
+                              ("Up", ["milk"]), ("Up", ["milk"]), ("ctrl+a", ["milk", "bread", "tea"]),
+                              ("Down", ["tea"])]:
             with self.subTest(key):
                 hands.press(key)
                 self.expectSelected(*selected)

@@ -10,7 +10,8 @@ FOLDED = 34  # the height of the header alone, in pixels
 
 class Window(DesktopCase):
     def expectHeight(self, height):
-        self.until(lambda: self.window.box[3] == height, lambda: f"the window was {height} high; it is {self.window.box[3]}")
+        self.until(lambda: self.window.box[3] == height,
+                   lambda: f"the window was {height} high; it is {self.window.box[3]}")
 
     def testADoubleClickOnTheHeaderFoldsItAndUnfoldsIt(self):
         self.start("milk")
