@@ -50,7 +50,8 @@ WindowPlace::WindowPlace(int years)
       content_(place_.store, place_.time),
       archive_(place_.store, sel_, ui_, place_.time),
       main_({place_.store, content_, archive_, ui_, sel_, place_.time, todayFocusAdd_}, pasteboard_) {
-  main_.bringForward();
+  main_.orderFront();
+  todayFocusAdd_.notify();
   window_ = qobject_cast<QQuickWindow*>(QGuiApplication::topLevelWindows().constLast());
   require(window_ && QTest::qWaitForWindowActive(window_), "bringing the window forward");
   QObject::connect(window_, &QQuickWindow::frameSwapped, window_, [this] {
