@@ -73,7 +73,7 @@ class Selecting(DesktopCase):
         self.start("milk", "bread", "tea")
         self.select(("milk", None), ("bread", "ctrl"))
         self.expectSelected("milk", "bread")
-        hands.click(self.row("bread").find("check box", "Tick").point())
+        hands.click(self.row("bread").find("button", "Tick").point())
         self.expectDay(today=["tea"], archive=[f"{dayKey()} milk+", f"{dayKey()} bread+"])
 
 

@@ -24,7 +24,7 @@ class MainWindowTest : public StoreTest {
     open(document("A B"));
     view.emplace(*store, time);
     archive.emplace(*store, sel, ui, time);
-    main.emplace(Today::Parts{*store, *view, *archive, ui, sel, time, todayFocusAdd}, pasteboard);
+    main.emplace(Today::Parts{*store, *view, *archive, ui, sel, time, todayFocusAdd, links}, pasteboard);
     main->theme().setReduceMotion(true);
     app.emplace(
         AppDelegate::Ports{time, desktop, preferences, pasteboard, center, application, *main, main->menus(),
@@ -151,12 +151,12 @@ TEST_F(MainWindowTest, LeavesReturnToAnInputMethodThatComposes) {
 }
 
 TEST_F(MainWindowTest, TicksATaskByItsDotAndSweepsItAfterAPause) {
-  const auto dot = [&](std::size_t row) { return items(QAccessible::CheckBox, 2).at(row); };
+  const auto dot = [&](std::size_t row) { return items(QAccessible::Button, 6).at(4 + row); };
   const auto sweeping = [&] { return items(QAccessible::ListItem, 2).at(1)->property("sweeping").toBool(); };
   for (const std::size_t row : {0, 0, 1}) click(dot(row));
   EXPECT_EQ(state(), "A B+");
   expectSaved();
-  EXPECT_EQ(names(QAccessible::CheckBox, 2), "Tick Untick ");
+  EXPECT_EQ(names(QAccessible::Button, 6), "Close Minimise Menu Archive Tick Untick ");
   time.advance(Seconds(0.89));
   EXPECT_FALSE(sweeping());
   time.advance(Seconds(0.01));
@@ -168,7 +168,7 @@ TEST_F(MainWindowTest, TicksATaskByItsDotAndSweepsItAfterAPause) {
 
 TEST_F(MainWindowTest, SlidesASweptRowOut) {
   main->theme().setReduceMotion(false);
-  QQuickItem* dot = items(QAccessible::CheckBox, 2).at(1);
+  QQuickItem* dot = items(QAccessible::Button, 6).at(5);
   const auto place = [&] { return dot->mapToScene({}).x(); };
   const double before = place();
   click(dot);

@@ -8,6 +8,8 @@ Rectangle {
     required property Today today
     required property real tallest
 
+    function takeKeyboard() { edit.forceActiveFocus() }
+
     implicitHeight: scroller.height + 16
     radius: 8
     color: Theme.faded(Theme.primary, edit.activeFocus ? 0.08 : 0.05)
@@ -95,7 +97,7 @@ Rectangle {
         anchors.fill: parent
         onDropped: (drop) => {
             drop.accept(Qt.CopyAction)
-            if (field.today.draggingId !== "" || drop.text.length > 16384) return field.today.dropText(drop.text)
+            if (!field.today.fieldTakes(drop.text)) return field.today.dropText(drop.text)
             edit.insert(edit.cursorPosition, drop.text)
             edit.forceActiveFocus()
         }

@@ -22,6 +22,8 @@ Item {
     Accessible.focusable: true
     Accessible.onPressAction: archive.beginEdit(key)
 
+    readonly property bool takesKeys: true
+
     /// Asks for the next scheduled task, or with -1 for the one before.
     signal stepped(step: int)
 

@@ -25,8 +25,10 @@ Item {
     Accessible.role: Accessible.Grouping
     Accessible.name: title.text
 
-    TapHandler {
-        onDoubleTapped: header.today.toggleCompact()
+    WindowMover {
+        anchors.fill: parent
+        target: header.Window.window
+        onDoubleClicked: header.today.toggleCompact()
     }
     Hint {
         target: header
@@ -48,6 +50,7 @@ Item {
         color: Theme.primary
         font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize + 1) * Theme.textScale); weight: Font.DemiBold }
 
+        readonly property bool takesKeys: true
         activeFocusOnTab: true
         Keys.onSpacePressed: header.today.toggleCompact()
         Keys.onReturnPressed: header.today.toggleCompact()

@@ -17,6 +17,9 @@ Item {
     signal dismissed
     signal focusLost
 
+    // The text may change under the editor, as by an undo.
+    onInitialTextChanged: if (input.text !== initialText) input.text = initialText
+
     readonly property bool hintBelow: measured.advanceWidth + 8 + after.implicitWidth > width
 
     implicitHeight: input.height + (after.visible && hintBelow ? after.height : 0)
@@ -40,7 +43,8 @@ Item {
         onTextEdited: editor.edited(text)
         onAccepted: editor.done()
         Keys.onEscapePressed: editor.dismissed()
-        onActiveFocusChanged: if (!activeFocus) editor.focusLost()
+        // A window that is left keeps its editor open.
+        onActiveFocusChanged: if (!activeFocus && Window.active) editor.focusLost()
         Accessible.role: Accessible.EditableText
         Accessible.name: Texts.of["Edit"]
     }

@@ -11,7 +11,7 @@ Window {
     width: 300
     height: 400
     minimumWidth: 230
-    minimumHeight: today.compact ? 34 : 200
+    minimumHeight: 200
     title: "Brimle"
     color: Theme.paper
     flags: Qt.Window | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint

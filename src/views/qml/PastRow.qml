@@ -67,6 +67,8 @@ Item {
                 width: parent.width
                 visible: modelData !== ""
                 text: modelData
+                Accessible.role: Accessible.StaticText
+                Accessible.name: Texts.of["Note"] + ": " + modelData
                 textFormat: Text.PlainText
                 wrapMode: Text.Wrap
                 color: Theme.tertiary

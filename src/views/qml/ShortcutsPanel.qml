@@ -17,7 +17,7 @@ Window {
     minimumHeight: height
     maximumHeight: height
     color: Theme.paper
-    flags: Qt.Dialog | Qt.WindowTitleHint | Qt.WindowCloseButtonHint | Qt.WindowStaysOnTopHint
+    flags: Qt.Tool | Qt.WindowTitleHint | Qt.WindowCloseButtonHint | Qt.WindowStaysOnTopHint
 
     Column {
         id: sections

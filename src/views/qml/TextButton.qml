@@ -6,6 +6,8 @@ Text {
     id: button
 
     required property string hint
+    /// Space and Return are its own while it has the keyboard.
+    readonly property bool takesKeys: true
     signal triggered
 
     textFormat: Text.PlainText

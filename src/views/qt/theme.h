@@ -87,6 +87,8 @@ class Theme : public QObject {
 
  signals:
   void changed();
+  /// The user pressed a key or a button, or turned to another window.
+  void acted();
   /// Apart from the others: it comes with every click, and looks and sizes stay as they are.
   void focusShownChanged();
 
