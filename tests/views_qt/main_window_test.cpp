@@ -248,6 +248,19 @@ TEST_F(MainWindowTest, EditsATaskAndItsNotesInPlace) {
   expectSaved();
 }
 
+TEST_F(MainWindowTest, LeavesATextTheWholeLineWhereTheHintOfItsDateTakesTooMuch) {
+  click(items(QAccessible::ListItem, 2).at(0));
+  QTest::keyClick(window, Qt::Key_Return);
+  const auto editor = [&] { return window->activeFocusItem(); };
+  ASSERT_TRUE(QTest::qWaitFor([&] { return editor() && editor()->property("text") == "A"; }));
+  const double line = editor()->width();
+  type(" >20/6");
+  EXPECT_LT(editor()->width(), line - 50) << "the hint stands beside the text";
+  QTest::keyClick(window, Qt::Key_Home);
+  type("a text of some length ");
+  EXPECT_GE(editor()->width(), line) << "the hint stands below";
+}
+
 TEST_F(MainWindowTest, SelectsByClicksAndWalksByKeys) {
   click(items(QAccessible::ListItem, 2).at(0));
   EXPECT_EQ(names(QAccessible::ListItem, 2), "A, selected B ");

@@ -25,9 +25,9 @@ Rectangle {
         x: 28
         y: 8
         width: parent.width - 38
-        height: Math.min(edit.contentHeight, Math.max(field.tallest, edit.cursorRectangle.height))
+        height: Math.min(edit.height, Math.max(field.tallest, edit.cursorRectangle.height))
         contentWidth: width
-        contentHeight: edit.contentHeight
+        contentHeight: edit.height
         clip: contentHeight > height
         interactive: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
@@ -41,6 +41,9 @@ Rectangle {
         TextEdit {
             id: edit
             width: scroller.width
+            // Scripts with a typeface of their own stand taller than an empty line; the field is as tall from the start.
+            height: Math.max(contentHeight, placeholder.implicitHeight)
+            verticalAlignment: TextEdit.AlignVCenter
             focus: true
             activeFocusOnTab: true
             textFormat: TextEdit.PlainText

@@ -19,8 +19,6 @@ Item {
     readonly property real besides: (count.text === "" ? 0 : count.implicitWidth + gap)
         + (tomorrow.text === "" ? 0 : tomorrow.implicitWidth + gap) + turn.implicitWidth + gap
     readonly property bool oneLine: folded || title.implicitWidth + besides <= room
-    readonly property real roomForCount: turn.x - gap - count.x
-        - (tomorrow.visible && oneLine ? tomorrow.implicitWidth + gap : 0)
 
     implicitHeight: folded ? 34 : (oneLine ? title.y + title.height : count.y + count.height) + 8
 
@@ -64,7 +62,7 @@ Item {
         id: count
         x: header.oneLine ? title.x + title.width + header.gap : header.leading
         y: header.oneLine ? title.y + title.baselineOffset - baselineOffset : title.y + title.height + 2
-        visible: text !== "" && (!header.oneLine || implicitWidth <= header.roomForCount)
+        visible: text !== "" && (!header.oneLine || x + implicitWidth + header.gap <= turn.x)
         text: header.today.count
         textFormat: Text.PlainText
         color: header.today.allDone ? Theme.pencilRed : Theme.secondary
@@ -78,7 +76,7 @@ Item {
         x: header.width - 16 - implicitWidth - (header.oneLine ? turn.implicitWidth + header.gap : 0)
         y: header.oneLine ? title.y + title.baselineOffset - baselineOffset
                           : title.y + title.height + 2 + count.baselineOffset - baselineOffset
-        visible: text !== "" && (!header.folded || x >= title.x + title.width + header.gap)
+        visible: text !== "" && (!header.folded || x >= header.gap + (count.visible ? count.x + count.width : title.x + title.width))
         text: header.today.tomorrowLabel
         textFormat: Text.PlainText
         color: Theme.tertiary

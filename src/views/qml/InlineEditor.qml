@@ -1,5 +1,6 @@
 // A one-line editor in the place of a text. It takes the keyboard when it opens, with the caret at the end. Return is
-// done, Escape dismisses, which means whatever its owner makes of it. A hint may follow the text.
+// done, Escape dismisses, which means whatever its owner makes of it. A hint may follow the text, on a line of its own
+// where there is no room for both.
 import QtQuick
 import Brimle
 
@@ -16,12 +17,22 @@ Item {
     signal dismissed
     signal focusLost
 
-    implicitHeight: input.height
+    readonly property bool hintBelow: measured.advanceWidth + 8 + after.implicitWidth > width
+
+    implicitHeight: input.height + (after.visible && hintBelow ? after.height : 0)
     baselineOffset: input.baselineOffset
+    onImplicitHeightChanged: Qt.callLater(editor.show) // qmllint disable
+
+    // What the text takes whatever room the field has, which depends on it.
+    TextMetrics {
+        id: measured
+        font: input.font
+        text: input.text
+    }
 
     TextInput {
         id: input
-        width: parent.width - (after.visible ? after.width + 6 : 0)
+        width: parent.width - (after.visible && !editor.hintBelow ? after.width + 6 : 0)
         clip: true
         selectByMouse: true
         selectedTextColor: Theme.paper
@@ -38,7 +49,10 @@ Item {
 
     Text {
         id: after
-        anchors { right: parent.right; baseline: input.baseline }
+        x: editor.hintBelow ? 0 : editor.width - width
+        y: editor.hintBelow ? input.height : input.baselineOffset - baselineOffset
+        width: Math.min(implicitWidth, editor.width)
+        elide: Text.ElideRight
         visible: editor.hint !== ""
         text: editor.hint
         textFormat: Text.PlainText

@@ -28,7 +28,7 @@ Window {
     }
 
     WindowButtons {
-        x: 12
+        x: window.today.compact ? 8 : 12 // folded, the title stands close beside them
         y: 11
         target: window
         today: window.today
