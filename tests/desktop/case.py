@@ -34,22 +34,28 @@ def nextKey(month, day):
 
 
 class DesktopCase(unittest.TestCase):
+    # What a kind of case may have otherwise: the program's day, what its environment has besides, and the name that the
+    # entry field has in its language.
+    date = staticmethod(datetime.date.today)
+    environment = {}
+    add = ADD
+
     def start(self, *today, **lists):
         """Starts the program on a day with these lists and waits until its entry field has the keyboard."""
         self.day = Day(list(today), **lists)
         self._folder = Path(os.environ["XDG_DATA_HOME"]) / "Brimle"
         self._file = self._folder / "today.json"
         self._folder.mkdir(exist_ok=True)
-        self._file.write_text(day_file.encoded(self.day, dayKey()), encoding="utf-8")
+        self._file.write_text(day_file.encoded(self.day, self.date().isoformat()), encoding="utf-8")
         hands.moveTo(hands.NOWHERE)
         self._messages = (DESKTOP.home / "messages").open("w+", encoding="utf-8")
-        self._program = DESKTOP.start(PROGRAM, stderr=self._messages)
+        self._program = DESKTOP.start(PROGRAM, stderr=self._messages, env=os.environ | self.environment)
         self.addCleanup(self._end)
         self.menus = MenuWatch()
         self.addCleanup(self.menus.end)
         self.app = self.until(lambda: applicationOf(self._program), "the program was on the accessibility bus")
         self.window = self.app.find("window", "Brimle")
-        self.waitForFocus(ADD)
+        self.waitForFocus(self.add)
 
     def _end(self):
         DESKTOP.end(self._program)

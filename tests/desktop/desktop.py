@@ -11,7 +11,7 @@ from pathlib import Path
 
 from waiting import waitUntil
 
-SCREEN = "1280x800x24"
+SCREEN = os.environ.get("BRIMLE_SCREEN", "1280x800x24")
 FOLDERS = {"XDG_DATA_HOME": "data", "XDG_CONFIG_HOME": "config", "XDG_STATE_HOME": "state", "XDG_CACHE_HOME": "cache",
            "XDG_RUNTIME_DIR": "run"}
 
