@@ -23,7 +23,7 @@ NONSENSE = [  # arguments and their signature
        "org.gnome.desktop.interface": {"text-scaling-factor": dbus.Double("nan", variant_level=3),
                                        "enable-animations": dbus.Struct([1, "x"], variant_level=1)}}], "a{sa{sv}}"),
     ([{"": {"": "x"}}], "a{sa{sv}}"),
-    ([dbus.Boolean(True)], "v"),
+    ([dbus.Array([1], signature="i")], "v"),
 ]
 
 
