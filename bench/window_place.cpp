@@ -1,7 +1,9 @@
 #include "window_place.h"
 
+#include <QEventLoop>
 #include <QGuiApplication>
 #include <QTest>
+#include <QTimer>
 #include <functional>
 
 #include "sample_data.h"
@@ -14,16 +16,21 @@ using Clock = std::chrono::steady_clock;
 /// No frame for so long: nothing is about to be painted.
 constexpr std::chrono::milliseconds kQuiet(12);
 constexpr std::chrono::seconds kMostWaiting(20);
+enum : int { kDone, kTooLate };
 
-/// Handles events until `done`; false where that takes too long.
+/// Handles events until `done`, and looks again every millisecond; false where that takes too long. In a loop
+/// as the program's: outside of one, objects that are to be deleted later stay.
 template <class Done>
 bool handleEventsUntil(Done done) {
   const auto limit = Clock::now() + kMostWaiting;
-  while (!done()) {
-    if (Clock::now() > limit) return false;
-    QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
-  }
-  return true;
+  QEventLoop loop;
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, &loop, [&] {
+    if (done()) loop.exit(kDone);
+    if (Clock::now() > limit) loop.exit(kTooLate);
+  });
+  look.start(std::chrono::milliseconds(1));
+  return loop.exec() == kDone;
 }
 
 QQuickItem* search(QQuickItem* item, const std::function<bool(const QQuickItem&)>& wanted) {
@@ -43,7 +50,8 @@ WindowPlace::WindowPlace(int years)
       content_(place_.store, place_.time),
       archive_(place_.store, sel_, ui_, place_.time),
       main_({place_.store, content_, archive_, ui_, sel_, place_.time, todayFocusAdd_}, pasteboard_) {
-  main_.bringForward();
+  main_.orderFront();
+  todayFocusAdd_.notify();
   window_ = qobject_cast<QQuickWindow*>(QGuiApplication::topLevelWindows().constLast());
   require(window_ && QTest::qWaitForWindowActive(window_), "bringing the window forward");
   QObject::connect(window_, &QQuickWindow::frameSwapped, window_, [this] {

@@ -24,6 +24,11 @@ class WindowPlace {
   template <class Act>
   double secondsToFrame(Act act) {
     settle();
+    return secondsToNextFrame(act);
+  }
+  /// The same right after another frame, as in a motion.
+  template <class Act>
+  double secondsToNextFrame(Act act) {
     const int before = frames_;
     const auto start = std::chrono::steady_clock::now();
     act();

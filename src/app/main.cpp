@@ -134,7 +134,7 @@ int run(int argc, char** argv) {
   Signal<> todayFocusAdd;
   ContentView content(store, time);
   ArchiveView archive(store, sel, ui, time);
-  MainWindow window({store, content, archive, ui, sel, time, todayFocusAdd}, pasteboard);
+  MainWindow window({store, content, archive, ui, sel, time, todayFocusAdd, links}, pasteboard);
   QtApplication desktopApplication(window.theme(), settings, desktopLooksDark);
   AppDelegate app({time, desktop, preferences, pasteboard, notifications, desktopApplication, window,
                    window.menus(), status, *hotKey, loginItem, updates, window.shortcuts(), links},

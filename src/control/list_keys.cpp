@@ -41,7 +41,7 @@ bool toggleDone(Press& press) {
 bool editText(Press& press) {
   const Uuid id = *press.sel.selection().begin();
   const TodoItem* task = press.store.find(id);
-  if (task && !isShownWhole(task->text)) return false;
+  if (!task || !isShownWhole(task->text)) return false;
   press.sel.setEditingID(id);
   return true;
 }

@@ -25,11 +25,11 @@ struct Archive::Block {
 
   const FoldedEntries& searchable() const {
     if (folded) return *folded;
-    folded.emplace();
+    FoldedEntries made;
     for (const auto& day : days) {
-      for (const ArchivedItem& entry : day->items) folded->add(entry);
+      for (const ArchivedItem& entry : day->items) made.add(entry);
     }
-    return *folded;
+    return folded.emplace(std::move(made));
   }
 };
 

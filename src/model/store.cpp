@@ -1,6 +1,7 @@
 #include "model/store.h"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 #include "i18n/i18n.h"
@@ -17,7 +18,7 @@ Store::Store(Ports ports, Region region, Path dataFolder)
       folder_(std::move(dataFolder)),
       fileURL_(folder_ / "today.json"),
       storedDate_(todayKey()) {
-  files_.removeLeftovers(fileURL_);
+  removeLeftovers();
   load();
   rolloverIfNeeded();
   scheduleCompletedSweep();
@@ -100,10 +101,20 @@ void Store::finishOperation() {
   const Changes changes = std::exchange(changes_, {});
   const bool sweepDue = std::exchange(sweepDue_, false);
   snapshotTaken_ = false;
-  if (changes.hasList()) save();
-  if (changes.has(Field::scheduled)) resyncArrivalNotifications();
-  if (sweepDue) scheduleCompletedSweep();
-  if (changes.any()) observers_.notify(changes);
+  // What memory runs out in does not keep the rest from being done, and is done again after the next
+  // operation.
+  const auto attempt = [&](auto hook) {
+    try {
+      hook();
+    } catch (const std::bad_alloc&) {
+      changes_.add(changes);
+      sweepDue_ = sweepDue_ || sweepDue;
+    }
+  };
+  if (changes.hasList()) attempt([&] { save(); });
+  if (changes.has(Field::scheduled)) attempt([&] { resyncArrivalNotifications(); });
+  if (sweepDue) attempt([&] { scheduleCompletedSweep(); });
+  if (changes.any()) attempt([&] { observers_.notify(changes); });
 }
 
 void Store::save() {

@@ -4,7 +4,9 @@
 // data: an undo snapshot before; the day file saved, reminders and sweeps brought in line after. However many
 // lists an operation assigns, it is one undo step and one save, made before the outermost operation returns.
 // No operation reports an error: where a file cannot be written the lists go on in memory and the next change
-// tries again. Main thread only. Each rule has a source file of its own, store_<rule>.cpp.
+// tries again. One that runs out of memory throws and changes nothing: all lists are computed before the
+// first is assigned, and after that nothing throws. Main thread only. Each rule has a source file of its own,
+// store_<rule>.cpp.
 #pragma once
 
 #include <bitset>
@@ -44,6 +46,7 @@ class Store {
    public:
     bool has(Field field) const { return bits_[static_cast<std::size_t>(field)]; }
     void add(Field field) { bits_.set(static_cast<std::size_t>(field)); }
+    void add(const Changes& others) { bits_ |= others.bits_; }
     bool any() const { return bits_.any(); }
     /// True where one of the four lists was assigned, which is what the day file holds.
     bool hasList() const {
@@ -174,6 +177,7 @@ class Store {
   void assign(List Lists::*list, List value, Field field);
   void finishOperation();
 
+  void removeLeftovers();
   void load();
   void loadStarterTasks();
   void save();
@@ -187,8 +191,8 @@ class Store {
   void scheduleCompletedSweep();
   void checkBeforeFade(const Uuid& id);
   void checkAfterFade(const Uuid& id);
+  void sweepLater(Seconds wait, const Uuid& id, void (Store::*check)(const Uuid&));
   void sweepCompleted(const Uuid& id);
-  void addToTodayArchive(ArchivedItem entry);
   void commit(std::vector<Entry> entries, bool toTomorrow);
 
   std::string todayKey() const { return dayKey(time_.today()); }

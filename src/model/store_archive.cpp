@@ -31,13 +31,13 @@ void Store::bringBackMany(const std::unordered_set<Uuid>& ids) {
   std::vector<ArchivedItem> restored;
   Archive rest = archive().without(ids, restored);
   if (restored.empty()) return;
-  const Operation operation(*this);
-  setArchive(std::move(rest));
   auto list = items();
   for (ArchivedItem& entry : restored) {
     list.push_back(makeTask(std::move(entry.text)));
     list.back().notes = std::move(entry.notes);
   }
+  const Operation operation(*this);
+  setArchive(std::move(rest));
   setItems(std::move(list));
 }
 

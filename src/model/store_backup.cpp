@@ -8,7 +8,7 @@ namespace brimle {
 namespace {
 
 constexpr std::size_t kKeptBackups = 7;
-constexpr std::string_view kPrefix = "today-";
+constexpr std::string_view kPrefix = "today-", kUnreadablePrefix = "unreadable-";
 
 bool writeWhole(Files& files, const Path& path, std::string_view bytes) {
   return files.replace(path, std::span(&bytes, 1));
@@ -30,10 +30,13 @@ void prune(Files& files, const Path& folder) {
   }
 }
 
+/// Whether a backup has these bytes; what an interrupted copy left behind is none, for it will be removed.
 bool holdsCopyOf(Files& files, const Path& folder, const std::string& bytes) {
   const auto names = files.list(folder).value_or(std::vector<std::string>{});
-  return std::any_of(names.begin(), names.end(),
-                     [&](const std::string& name) { return files.read(folder / name) == bytes; });
+  return std::any_of(names.begin(), names.end(), [&](const std::string& name) {
+    const bool isBackup = name.starts_with(kPrefix) || name.starts_with(kUnreadablePrefix);
+    return isBackup && files.read(folder / name) == bytes;
+  });
 }
 
 /// A moment as "20260615T090000Z" (ISO 8601, basic form, UTC).
@@ -55,6 +58,13 @@ std::string stampOf(Instant instant) {
 
 }  // namespace
 
+/// Removes what a save or a copy left behind that ended with the program.
+void Store::removeLeftovers() {
+  files_.removeLeftovers(fileURL_);
+  for (const auto prefix : {kPrefix, kUnreadablePrefix})
+    files_.removeLeftoversIn(folder_ / "Backups", prefix);
+}
+
 void Store::backupIfNeeded(const std::string& stamp) {
   const Path folder = folder_ / "Backups";
   files_.createFolders(folder);
@@ -65,7 +75,7 @@ void Store::backupIfNeeded(const std::string& stamp) {
 }
 
 Path Store::unreadablePath() const {
-  return folder_ / "Backups" / ("unreadable-" + stampOf(time_.now()) + ".json");
+  return folder_ / "Backups" / (std::string(kUnreadablePrefix) + stampOf(time_.now()) + ".json");
 }
 
 /// Keeps the bytes of a day file that is no document, where today's backup does not hold them already. Tells
@@ -75,13 +85,13 @@ bool Store::keepUnreadable(const std::string& bytes) {
 }
 
 /// Before a save over bytes that no backup holds (a day file that could not be read or copied, or that came
-/// back with its disk after the start): moves them to the backups. False where that fails, so that nothing is
-/// written over them.
+/// back with its disk after the start): copies them to the backups, or moves there what cannot be read. False
+/// where that fails, so that nothing is written over them.
 bool Store::setAsideUnkept() {
   if (!unkept_ || !files_.exists(fileURL_)) return true;
-  const Path kept = unreadablePath();
-  files_.createFolders(kept.parent_path());
-  return files_.rename(fileURL_, kept);
+  files_.createFolders(folder_ / "Backups");
+  const auto bytes = files_.read(fileURL_);
+  return bytes ? keepUnreadable(*bytes) : files_.rename(fileURL_, unreadablePath());
 }
 
 }  // namespace brimle

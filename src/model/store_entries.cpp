@@ -16,8 +16,8 @@ void Store::addLines(std::string_view text, bool toTomorrow) {
 /// Files entries in their order, each list assigned once. A pinned task goes above all others, so that the
 /// last of several stands first.
 void Store::commit(std::vector<Entry> entries, bool toTomorrow) {
-  std::vector<TodoItem> top, bottom, deferred;
-  std::vector<ScheduledItem> sent;
+  std::vector<TodoItem> top, bottom, deferred = tomorrow();
+  std::vector<ScheduledItem> sent = scheduled();
   for (Entry& entry : entries) {
     if (entry.sendDate) {
       sent.push_back({Uuid::random(), std::move(*entry.sendDate), std::move(entry.item)});
@@ -28,24 +28,15 @@ void Store::commit(std::vector<Entry> entries, bool toTomorrow) {
     }
   }
 
+  sortByDate(sent);
+  std::vector<TodoItem> list(std::make_move_iterator(top.rbegin()), std::make_move_iterator(top.rend()));
+  list.insert(list.end(), items().begin(), items().end());
+  std::move(bottom.begin(), bottom.end(), std::back_inserter(list));
+
   const Operation operation(*this);
-  if (!sent.empty()) {
-    auto list = scheduled();
-    std::move(sent.begin(), sent.end(), std::back_inserter(list));
-    sortByDate(list);
-    setScheduled(std::move(list));
-  }
-  if (!deferred.empty()) {
-    auto list = tomorrow();
-    std::move(deferred.begin(), deferred.end(), std::back_inserter(list));
-    setTomorrow(std::move(list));
-  }
-  if (!top.empty() || !bottom.empty()) {
-    std::vector<TodoItem> list(std::make_move_iterator(top.rbegin()), std::make_move_iterator(top.rend()));
-    list.insert(list.end(), items().begin(), items().end());
-    std::move(bottom.begin(), bottom.end(), std::back_inserter(list));
-    setItems(std::move(list));
-  }
+  if (sent.size() > scheduled().size()) setScheduled(std::move(sent));
+  if (deferred.size() > tomorrow().size()) setTomorrow(std::move(deferred));
+  if (list.size() > items().size()) setItems(std::move(list));
 }
 
 }  // namespace brimle

@@ -72,13 +72,13 @@ void Store::tomorrowMany(const Ids& ids) {
   Tasks list = items();
   Tasks moved = takeOut(list, ids);
   if (moved.empty()) return;
-  const Operation operation(*this);
-  setItems(std::move(list));
   Tasks deferred = tomorrow();
   for (TodoItem& task : moved) {
     task.done = false;
     deferred.push_back(std::move(task));
   }
+  const Operation operation(*this);
+  setItems(std::move(list));
   setTomorrow(std::move(deferred));
 }
 

@@ -57,22 +57,24 @@ void append(std::vector<TodoItem>& list, std::vector<TodoItem> more) {
 }  // namespace
 
 void Store::rolloverIfNeeded() {
-  const std::string today = todayKey();
+  std::string today = todayKey();
   if (storedDate_ == today) return;
-  const Operation operation(*this);
   backupIfNeeded(storedDate_);
-  suppressUndo_ = true;
 
   ClosedDay closed = close(items());
-  if (!closed.leaving.empty()) setArchive(archive().withEntries(storedDate_, std::move(closed.leaving)));
-  storedDate_ = today;
-
+  const bool files = !closed.leaving.empty();
+  Archive filed = files ? archive().withEntries(storedDate_, std::move(closed.leaving)) : archive();
   Arrivals arrivals = arrive(scheduled(), today);
-  setScheduled(std::move(arrivals.waiting));
   std::vector<TodoItem> opened = std::move(arrivals.pinned);
   append(opened, std::move(closed.kept));
   append(opened, tomorrow());
   append(opened, std::move(arrivals.others));
+
+  const Operation operation(*this);
+  suppressUndo_ = true;
+  if (files) setArchive(std::move(filed));
+  storedDate_ = std::move(today);
+  setScheduled(std::move(arrivals.waiting));
   setItems(std::move(opened));
   setTomorrow({});
 

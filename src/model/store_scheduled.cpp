@@ -21,12 +21,13 @@ Scheduled::iterator locate(Scheduled& scheduled, const Uuid& id) {
 
 void Store::sendToDay(TodoItem task, const std::string& day) {
   if (!find(task.id)) return;
-  const Operation operation(*this);
-  removeMany({task.id});
+  const Uuid id = task.id;
   Scheduled list = scheduled();
   task.done = false;
   list.push_back({Uuid::random(), day, std::move(task)});
   sortByDate(list);
+  const Operation operation(*this);
+  removeMany({id});
   setScheduled(std::move(list));
 }
 
@@ -86,13 +87,13 @@ void Store::bringForward(const Uuid& id) {
   Scheduled waiting = scheduled();
   const auto entry = locate(waiting, id);
   if (entry == waiting.end()) return;
-  const Operation operation(*this);
   TodoItem task = std::move(entry->item);
   task.done = false;
   waiting.erase(entry);
-  setScheduled(std::move(waiting));
   auto list = items();
   list.insert(task.pinnedTop ? list.begin() : list.end(), std::move(task));
+  const Operation operation(*this);
+  setScheduled(std::move(waiting));
   setItems(std::move(list));
 }
 

@@ -16,25 +16,30 @@ void Store::scheduleCompletedSweep() {
   if (loading_ || suppressUndo_) return;
   for (const TodoItem& task : items()) {
     if (!task.done || (task.repeats && task.clearedToday)) continue;
-    if (!pendingArchive_.insert(task.id).second) continue;
-    later(kPause, [this, id = task.id] { checkBeforeFade(id); });
+    if (!pendingArchive_.contains(task.id)) sweepLater(kPause, task.id, &Store::checkBeforeFade);
+  }
+}
+
+/// Calls `check` after a wait, during which no other sweep of the task begins.
+void Store::sweepLater(Seconds wait, const Uuid& id, void (Store::*check)(const Uuid&)) {
+  pendingArchive_.insert(id);
+  try {
+    later(wait, [this, id, check] { (this->*check)(id); });
+  } catch (...) {
+    pendingArchive_.erase(id);
+    throw;
   }
 }
 
 void Store::checkBeforeFade(const Uuid& id) {
+  pendingArchive_.erase(id);
   const TodoItem* task = find(id);
-  if (!task || !task->done) {
-    pendingArchive_.erase(id);
-    return;
-  }
-  if (desktop_.reduceMotion()) {
-    pendingArchive_.erase(id);
-    return sweepCompleted(id);
-  }
+  if (!task || !task->done) return;
+  if (desktop_.reduceMotion()) return sweepCompleted(id);
   const Operation operation(*this);
+  sweepLater(kFadeWait, id, &Store::checkAfterFade);
   sweepingIDs_.insert(id);
   changes_.add(Field::sweepingIDs);
-  later(kFadeWait, [this, id] { checkAfterFade(id); });
 }
 
 void Store::checkAfterFade(const Uuid& id) {
@@ -49,8 +54,9 @@ void Store::checkAfterFade(const Uuid& id) {
 void Store::sweepCompleted(const Uuid& id) {
   const TodoItem* task = find(id);
   if (!task) return;
-  const Operation operation(*this);
-  ArchivedItem entry = archivedCopy(*task, true);
+  std::vector<ArchivedItem> entries;
+  entries.push_back(archivedCopy(*task, true));
+  Archive filed = archive().withEntries(storedDate_, std::move(entries));
   auto list = items();
   const auto swept = list.begin() + (task - items().data());
   if (swept->repeats) {
@@ -58,14 +64,9 @@ void Store::sweepCompleted(const Uuid& id) {
   } else {
     list.erase(swept);
   }
+  const Operation operation(*this);
   setItems(std::move(list));
-  addToTodayArchive(std::move(entry));
-}
-
-void Store::addToTodayArchive(ArchivedItem entry) {
-  std::vector<ArchivedItem> entries;
-  entries.push_back(std::move(entry));
-  setArchive(archive().withEntries(storedDate_, std::move(entries)));
+  setArchive(std::move(filed));
 }
 
 }  // namespace brimle

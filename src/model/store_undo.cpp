@@ -18,27 +18,28 @@ void Store::pushUndo() {
   if (loading_ || suppressUndo_) return;
   const Instant now = time_.now();
   const bool merges = snapshotTaken_ || (lastSnapshotAt_ && now - *lastSnapshotAt_ < kCoalescingInterval);
+  if (!merges) {
+    undoStack_.push_back(lists_);
+    if (undoStack_.size() > kUndoDepth) undoStack_.pop_front();
+    redoStack_.clear();
+  }
   snapshotTaken_ = true;
   lastSnapshotAt_ = now;
-  if (merges) return;
-  undoStack_.push_back(lists_);
-  if (undoStack_.size() > kUndoDepth) undoStack_.pop_front();
-  redoStack_.clear();
 }
 
 void Store::undo() {
   if (undoStack_.empty()) return desktop_.beep();
+  redoStack_.push_back(lists_);
   Snapshot snapshot = std::move(undoStack_.back());
   undoStack_.pop_back();
-  redoStack_.push_back(lists_);
   restore(std::move(snapshot));
 }
 
 void Store::redo() {
   if (redoStack_.empty()) return desktop_.beep();
+  undoStack_.push_back(lists_);
   Snapshot snapshot = std::move(redoStack_.back());
   redoStack_.pop_back();
-  undoStack_.push_back(lists_);
   restore(std::move(snapshot));
 }
 

@@ -20,6 +20,8 @@ class Files {
  public:
   virtual ~Files() = default;
 
+  /// False only where there is certainly nothing: what cannot be told counts as there, so that nothing is
+  /// written over it.
   virtual bool exists(const Path& path) const = 0;
   /// All bytes of a regular file; nothing where it cannot be read whole.
   virtual std::optional<std::string> read(const Path& path) const = 0;
@@ -34,6 +36,8 @@ class Files {
   virtual bool replace(const Path& path, std::span<const std::string_view> pieces) = 0;
   /// Removes what an interrupted `replace` of `path` left behind.
   virtual void removeLeftovers(const Path& path) = 0;
+  /// The same for all files of a folder whose names begin with `prefix`.
+  virtual void removeLeftoversIn(const Path& folder, std::string_view prefix) = 0;
 };
 
 }  // namespace brimle

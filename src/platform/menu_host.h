@@ -1,4 +1,4 @@
-// The port to where the desktop shows the menu bar: a global bar, or a menu behind a button of the window.
+// The port to where the menu bar is shown: behind a button of the window, on desktops without a bar of their own.
 #pragma once
 
 #include "platform/menu.h"

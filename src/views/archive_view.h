@@ -14,9 +14,9 @@
 #include "control/row_commands.h"
 #include "control/selection_model.h"
 #include "model/store.h"
+#include "platform/menu.h"
 #include "views/archive_timeline.h"
 #include "views/date_hint.h"
-#include "platform/menu.h"
 
 namespace brimle {
 

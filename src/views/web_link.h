@@ -1,7 +1,7 @@
-// The first web address in a text: what begins with http://, https:// or www., up to the next space, quotation
-// mark or full-width punctuation, without what ends a sentence or a bracket that was opened before it. Nothing
-// else is a link.
-// Example: in "read (https://example.org/a_(b))." it is "https://example.org/a_(b)".
+// The first web address in a text: what begins with http://, https:// or www., up to the next space,
+// quotation mark or full-width punctuation, without what ends a sentence or a bracket that was opened before
+// it. Nothing else is a link. Example: in "read (https://example.org/a_(b))." it is
+// "https://example.org/a_(b)".
 #pragma once
 
 #include <optional>

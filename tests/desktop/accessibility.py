@@ -6,7 +6,7 @@ from functools import cache
 
 from gi.repository import Gio, GLib
 
-FOCUSED, SHOWING = 12, 25  # bits of a state set
+ACTIVE, FOCUSED, SHOWING = 1, 12, 25  # bits of a state set
 
 _REGISTRY = "org.a11y.atspi.Registry"
 _REGISTRY_PATH = "/org/a11y/atspi/registry"

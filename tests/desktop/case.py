@@ -3,6 +3,7 @@ controls and the clipboard.
 """
 import datetime
 import os
+import shutil
 import subprocess
 import unittest
 from dataclasses import replace
@@ -15,7 +16,7 @@ from day_file import Day
 from desktop import DESKTOP
 from waiting import DEADLINE, waitUntil
 
-PROGRAM = os.environ.get("BRIMLE_PROGRAM", str(Path(__file__).parents[2] / "build/bin/brimle"))
+PROGRAM = os.environ.get("BRIMLE_PROGRAM", Path(__file__).parents[2] / "build/bin/brimle")
 PICTURES = Path(PROGRAM).parents[1] / "desktop-tests"
 ADD = "Add a task"
 EDIT = "Edit"
@@ -33,16 +34,27 @@ def nextKey(month, day):
     return (date if date > today else date.replace(year=today.year + 1)).isoformat()
 
 
+def textOf(row):
+    """The text of a row's task. What else is to be said of the row follows it in its name."""
+    return row.name.split(", ")[0]
+
+
 class DesktopCase(unittest.TestCase):
+    # What a kind of case may have otherwise: the program's day, what its environment has besides, and the name that the
+    # entry field has in its language.
+    date = staticmethod(datetime.date.today)
+    environment = {}
+    add = ADD
+
     def start(self, *today, **lists):
         """Starts the program on a day with these lists and waits until its entry field has the keyboard."""
         self.day = Day(list(today), **lists)
-        self._launch(os.environ)
+        self._launch(os.environ | self.environment)
         self.menus = MenuWatch()
         self.addCleanup(self.menus.end)
         self.app = self.until(lambda: applicationOf(self._program), "the program was on the accessibility bus")
         self.window = self.app.find("window", "Brimle")
-        self.waitForFocus(ADD)
+        self.waitForFocus(self.add)
 
     def startElsewhere(self, *today, **environment):
         """Starts the program on a day with this list, in an environment in which it may be met by the keyboard alone:
@@ -55,7 +67,7 @@ class DesktopCase(unittest.TestCase):
         self._folder = Path(os.environ["XDG_DATA_HOME"]) / "Brimle"
         self._file = self._folder / "today.json"
         self._folder.mkdir(exist_ok=True)
-        self._file.write_text(day_file.encoded(self.day, dayKey()), encoding="utf-8")
+        self._file.write_text(day_file.encoded(self.day, self.date().isoformat()), encoding="utf-8")
         hands.moveTo(hands.NOWHERE)
         self._messages = (DESKTOP.home / "messages").open("w+", encoding="utf-8")
         self._program = DESKTOP.start(PROGRAM, stderr=self._messages, env=environment)
@@ -73,9 +85,9 @@ class DesktopCase(unittest.TestCase):
         DESKTOP.end(self._program)
         messages = self._said()
         self._messages.close()
-        for path in self._folder.rglob("*"):
-            if path.is_file():
-                path.unlink()
+        for variable in ("XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME"):
+            for entry in Path(os.environ[variable]).glob("[Bb]rimle"):
+                shutil.rmtree(entry) if entry.is_dir() else entry.unlink()
         self.assertNotIn("qrc:", messages, "a view complained")
 
     def until(self, condition, what, meanwhile=lambda: None):
@@ -106,15 +118,16 @@ class DesktopCase(unittest.TestCase):
 
     def rows(self):
         """The rows in sight, from the top down. The tree keeps them in the order in which they came."""
-        _, top, _, height = self.window.find("list").box
-        boxes = [(row, row.box) for row in self.window.all("row")]
+        shown = self.window.find("list")
+        _, top, _, height = shown.box
+        boxes = [(row, row.box) for row in shown.all("row")]
         seen = [(box[1], row) for row, box in boxes if top - 1 <= box[1] and box[1] + box[3] <= top + height + 1]
         return [row for _, row in sorted(seen, key=lambda placed: placed[0])]
 
     def row(self, text):
         """The row of a task, when all rows have come to rest."""
         self.waitForRest()
-        found = self.until(lambda: [row for row in self.rows() if row.name.split(", ")[0] == text],
+        found = self.until(lambda: [row for row in self.rows() if textOf(row) == text],
                            lambda: f"there was a row {text!r}; there are {[row.name for row in self.rows()]}")
         self.assertEqual(len(found), 1)
         return found[0]
@@ -140,24 +153,24 @@ class DesktopCase(unittest.TestCase):
         return True
 
     def expectRows(self, *texts):
-        self.until(lambda: [row.name.split(", ")[0] for row in self.rows()] == list(texts),
+        self.until(lambda: [textOf(row) for row in self.rows()] == list(texts),
                    lambda: f"the rows were {texts}; they are {[row.name for row in self.rows()]}")
 
     def selected(self):
         """The texts of the selected rows."""
-        return [row.name.split(", ")[0] for row in self.rows() if "selected" in row.name.split(", ")]
+        return [textOf(row) for row in self.rows() if "selected" in row.name.split(", ")]
 
     def expectSelected(self, *texts):
         self.until(lambda: self.selected() == list(texts), lambda: f"{texts} were selected; {self.selected()} are")
 
     # The keyboard.
 
-    def waitForFocus(self, name, text=None):
-        """The field of this name, with this text where one is given, as soon as it has the keyboard."""
+    def waitForFocus(self, name, text=None, role="field"):
+        """Until the control of this name has the keyboard and, where it is given, holds this text."""
         def focused():
-            fields = [field for field in self.window.all("field", name) if field.focused]
-            return fields[0] if fields and text in (None, fields[0].text) else None
-        return self.until(focused, f"the field {name!r} had the keyboard" + ("" if text is None else f" and held {text!r}"))
+            controls = [control for control in self.window.all(role, name) if control.focused]
+            return controls and (text is None or controls[0].text == text)
+        self.until(focused, f"the {role} {name!r} had the keyboard" + ("" if text is None else f" and held {text!r}"))
 
     def waitUntilClosed(self, name):
         self.until(lambda: not self.window.all("field", name), f"the field {name!r} was closed")
@@ -179,14 +192,23 @@ class DesktopCase(unittest.TestCase):
     def choose(self, row, item):
         """Opens the context menu of a row and clicks an item of it."""
         hands.rightClick(row.point())
-        hands.click(self.menus.menu().find("menu item", item).point())
+        hands.click(self.menus.item(item).point())
+        self.menus.waitUntilClosed()
+
+    def chooseFromMainMenu(self, *path):
+        """Opens the program's menu and clicks an item of it, of its submenu, and so on."""
+        hands.click(self.window.find("button", "Menu").point())
+        for item in path:
+            hands.click(self.menus.item(item).point())
         self.menus.waitUntilClosed()
 
     def copied(self):
         """The text on the clipboard."""
-        answer = subprocess.run(["xclip", "-selection", "clipboard", "-out"], capture_output=True, check=False, timeout=30)
+        answer = subprocess.run(["xclip", "-selection", "clipboard", "-out"], capture_output=True, check=False,
+                                timeout=30)
         return answer.stdout.decode()
 
     def putOnClipboard(self, text):
-        subprocess.run(["xclip", "-selection", "clipboard", "-in"], input=text.encode(), check=True, timeout=30)
+        subprocess.run(["xclip", "-selection", "clipboard", "-in"], input=text.encode(), check=True, timeout=30,
+                       stderr=DESKTOP.log)
         self.until(lambda: self.copied() == text, "the text was on the clipboard")

@@ -5,7 +5,8 @@ import accessibility
 from gi.repository import GLib
 from waiting import waitUntil
 
-ROLES = {"button": "push button", "field": "text", "row": "list item", "window": "frame"}  # others are named as they are
+# What the tests call a role, where that is not what the bus calls it.
+ROLES = {"button": "push button", "field": "text", "row": "list item", "window": "frame"}
 
 
 class Control:
@@ -34,6 +35,11 @@ class Control:
     @property
     def focused(self):
         return self._element.has(accessibility.FOCUSED)
+
+    @property
+    def active(self):
+        """Whether it is the window that has the keyboard."""
+        return self._element.has(accessibility.ACTIVE)
 
     def all(self, role, named=None):
         """Every control in it with the role, of those on the screen; with the name, or one that `named(name)` takes."""
@@ -70,7 +76,7 @@ def applicationOf(process):
 
 
 class MenuWatch:
-    """Notices context menus, which are windows of their own that only their events lead to."""
+    """Notices menus, which are windows of their own that only their events lead to."""
 
     def __init__(self):
         self._open = []
@@ -89,8 +95,16 @@ class MenuWatch:
         except GLib.Error:
             return False  # it is gone already
 
-    def menu(self):
-        return Control(waitUntil(lambda: self._open, "a menu was open")[-1])
+    def waitUntilOpen(self):
+        waitUntil(lambda: self._open, "a menu was open")
+
+    def item(self, title):
+        """The item of an open menu; its name may go on with its key."""
+        def found():
+            items = [item for menu in self._open for item in Control(menu).all("menu item")]
+            return next((item for item in items if item.name.split("\t")[0] == title), None)
+        return waitUntil(found, lambda: f"a menu had {title!r}; there are\n"
+                         + "\n".join(Control(menu)._tree() for menu in self._open))
 
     def waitUntilClosed(self):
         waitUntil(lambda: not self._open, "the menu was closed")

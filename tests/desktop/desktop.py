@@ -8,7 +8,7 @@ from pathlib import Path
 from session import Session
 from waiting import waitUntil
 
-WIDTH, HEIGHT = 1280, 800  # of the screen, in pixels
+WIDTH, HEIGHT = map(int, os.environ.get("BRIMLE_SCREEN", "1280x800").split("x"))  # in pixels
 
 
 class Desktop(Session):
@@ -16,8 +16,10 @@ class Desktop(Session):
 
     def startScreen(self):
         _, os.environ["DISPLAY"] = self.startServer()
-        self.start("openbox")
-        waitUntil(self._managed, "the window manager was ready")
+        # It says that it manages windows a good while before it does; the command is run when it really does.
+        managing = self.home / "managing"
+        self.start("openbox", "--startup", f"touch {managing}")
+        waitUntil(managing.exists, "the window manager was ready")
 
     def startServer(self):
         """Starts an X server; its process and its display."""
@@ -28,11 +30,6 @@ class Desktop(Session):
     def picture(self, path):
         Path(path).parent.mkdir(parents=True, exist_ok=True)
         subprocess.run(["import", "-silent", "-window", "root", str(path)], check=False, timeout=30)
-
-    @staticmethod
-    def _managed():
-        answer = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True, text=True, check=False)
-        return "window id" in answer.stdout
 
 
 DESKTOP = Desktop()

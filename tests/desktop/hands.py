@@ -47,9 +47,9 @@ def doubleClick(point):
     _xdotool("mousemove", *point, "click", "--repeat", 2, "--delay", DOUBLE_CLICK_DELAY, 1)
 
 
-def scrollUp(point):
-    """Turns the wheel towards what is above, a good deal."""
-    _xdotool("mousemove", *point, "click", "--repeat", 15, 4)
+def scrollUp(point, turns=15):
+    """Turns the wheel towards what is above, a good deal unless told otherwise."""
+    _xdotool("mousemove", *point, "click", "--repeat", turns, 4)
 
 
 def takeHold(point):

@@ -43,7 +43,8 @@ class PastDays(ArchiveCase):
         self.expectDay(today=["tea", "milk / oat", "eggs"], archive=[f"{dayKey(-1)} bread"])
         self.expectRows("bread")
         hands.press("ctrl+z")
-        self.expectDay(today=["tea"], archive=[f"{dayKey(-1)} milk+ / oat", f"{dayKey(-1)} bread", f"{dayKey(-2)} eggs+"])
+        self.expectDay(today=["tea"],
+                       archive=[f"{dayKey(-1)} milk+ / oat", f"{dayKey(-1)} bread", f"{dayKey(-2)} eggs+"])
 
     def testKeysSelectDeleteAndLeave(self):
         self.start(archive=[f"{dayKey(-1)} milk+", f"{dayKey(-1)} bread", f"{dayKey(-2)} eggs+"])

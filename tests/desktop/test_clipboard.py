@@ -12,7 +12,8 @@ class Clipboard(DesktopCase):
         hands.click(self.row("milk").point(), held="ctrl")
         self.expectSelected("milk", "tea")
         hands.press("ctrl+c")
-        self.until(lambda: self.copied() == "milk // oat\ntea // green", lambda: f"the rows were copied: {self.copied()!r}")
+        lines = "milk // oat\ntea // green"
+        self.until(lambda: self.copied() == lines, lambda: f"the rows were copied: {self.copied()!r}")
 
     def testSeveralLinesBecomeTasksWhateverHasTheKeyboard(self):
         self.start("milk")

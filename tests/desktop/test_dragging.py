@@ -16,7 +16,12 @@ def trembling(point):
     return lambda: hands.moveTo(next(places))
 
 
-class DraggingRows(DesktopCase):
+class DraggingCase(DesktopCase):
+    def takeHold(self, text):
+        self.place = self.row(text).point()
+        hands.takeHold(self.place)
+        self.addCleanup(hands.letGo)
+
     def dragOver(self, end, **lists):
         """Goes on with a drag until the pointer is over the middle of a row, then waits until the day is this."""
         target = self.row(end).point()
@@ -24,33 +29,11 @@ class DraggingRows(DesktopCase):
         self.place = target
         self.expectDay(trembling(target), **lists)
 
-    def takeHold(self, text):
-        self.place = self.row(text).point()
-        hands.takeHold(self.place)
-
-    def testARowMovesAlongWithThePointer(self):
-        self.start("milk", "bread", "tea", "eggs")
-        self.takeHold("tea")
-        self.dragOver("bread", today=["milk", "tea", "bread", "eggs"])
-        self.dragOver("milk", today=["tea", "milk", "bread", "eggs"])
-        self.dragOver("milk", today=["milk", "tea", "bread", "eggs"])
-        hands.letGo()
-        self.selectAndExpect("eggs")
-        self.undoUntil(today=["milk", "bread", "tea", "eggs"])
-
-    def testEscapeEndsADragAndNothingIsStuck(self):
-        self.start("milk", "bread", "tea")
-        self.takeHold("tea")
-        self.dragOver("bread", today=["milk", "tea", "bread"])
+    def cancel(self):
+        """Escape, and the button is let go over another row."""
         hands.press("Escape")
-        hands.glide(self.place, self.row("milk").point())
+        hands.glide(self.place, self.rows()[0].point())
         hands.letGo()
-        self.selectAndExpect("bread")
-        self.expectDay()
-        self.takeHold("tea")
-        self.dragOver("milk", today=["tea", "milk", "bread"])
-        hands.letGo()
-        self.selectAndExpect("bread")
 
     def selectAndExpect(self, text):
         """The mouse is an ordinary one again: a click selects a row."""
@@ -58,7 +41,32 @@ class DraggingRows(DesktopCase):
         self.expectSelected(text)
 
 
-class DraggingText(DesktopCase):
+class DraggingRows(DraggingCase):
+    def testARowMovesAlongWithThePointer(self):
+        self.start("milk", "bread", "tea", "eggs")
+        self.takeHold("tea")
+        self.dragOver("bread", today=["milk", "tea", "bread", "eggs"])
+        self.dragOver("milk", today=["tea", "milk", "bread", "eggs"])
+        self.dragOver("bread", today=["milk", "bread", "tea", "eggs"])
+        self.dragOver("eggs", today=["milk", "bread", "eggs", "tea"])
+        hands.letGo()
+        self.selectAndExpect("eggs")
+        self.undoUntil(today=["milk", "bread", "tea", "eggs"])
+
+    def testEscapeEndsADragAndTheNextIsLikeTheFirst(self):
+        self.start("milk", "bread", "tea")
+        self.takeHold("tea")
+        self.dragOver("bread", today=["milk", "tea", "bread"])
+        self.cancel()
+        self.selectAndExpect("bread")
+        self.expectDay()
+        self.takeHold("tea")
+        self.dragOver("milk", today=["tea", "milk", "bread"])
+        hands.letGo()
+        self.selectAndExpect("bread")
+
+
+class DraggingText(DraggingCase):
     def startOther(self, text):
         """Another program's window with a text in it, all of it selected, beside the program's own."""
         left, top, width, _ = self.window.box
@@ -77,24 +85,36 @@ class DraggingText(DesktopCase):
         start = self.row("milk").point()
         end = (self.field.point()[0], start[1])
         hands.takeHold(start)
+        self.addCleanup(hands.letGo)
         hands.glide(start, end)
         self.until(lambda: self.title() == "Text, answered", "the drag was welcome", trembling(end))
         hands.letGo()
         self.until(lambda: self.field.text == "milk", lambda: f"the text was dropped; there is {self.field.text!r}")
         self.expectDay()
 
-    def testATextDroppedOnTheListBecomesTasks(self):
+    def dropText(self, place, drag, **lists):
+        """Drags the other program's text to a place; it is its first drag, or its second and so on."""
+        start = self.field.point(0.06, 0.06)
+        hands.takeHold(start)
+        self.addCleanup(hands.letGo)
+        hands.glide(start, place)
+        self.until(lambda: self.title() == f"Text, welcome {drag}", "the drop was welcome", trembling(place))
+        hands.letGo()
+        self.expectDay(**lists)
+
+    def testATextDroppedOnARowOrBelowBecomesTasks(self):
         self.start("milk")
         self.startOther("bread // rye\ntea")
-        for place, today in [(self.row("milk").point(), ["milk", "bread / rye", "tea"]),
-                             (self.window.find("list").point(down=0.9), ["milk", *["bread / rye", "tea"] * 2])]:
-            with self.subTest(place):
-                start = self.field.point(0.06, 0.06)
-                hands.takeHold(start)
-                hands.glide(start, place)
-                self.until(lambda: self.title() == "Text, welcome", "the drop was welcome", trembling(place))
-                hands.letGo()
-                self.expectDay(today=today)
+        self.dropText(self.row("milk").point(), drag=1, today=["milk", "bread / rye", "tea"])
+        self.dropText(self.window.find("list").point(down=0.9), drag=2, today=["milk", *["bread / rye", "tea"] * 2])
+
+    def testATextIsTakenAfterARowsDragWasCancelled(self):
+        self.start("milk", "bread")
+        self.startOther("tea")
+        self.takeHold("bread")
+        self.dragOver("milk", today=["bread", "milk"])
+        self.cancel()
+        self.dropText(self.row("milk").point(), drag=1, today=["bread", "milk", "tea"])
 
 
 if __name__ == "__main__":

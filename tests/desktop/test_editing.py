@@ -8,7 +8,7 @@ from case import ADD, EDIT, DesktopCase, dayKey, nextKey
 class EditingTexts(DesktopCase):
     def openByDoubleClick(self, text):
         hands.doubleClick(self.row(text).point(across=0.4))
-        return self.waitForFocus(EDIT, text)
+        self.waitForFocus(EDIT, text)
 
     def testDoubleClickEditsAtTheEndAndReturnCommits(self):
         self.start("milk", "bread")

@@ -1,4 +1,4 @@
-"""The context menu of a row."""
+"""The context menu of a row, and its pin."""
 import unittest
 
 import hands
@@ -43,11 +43,19 @@ class ContextMenu(DesktopCase):
     def testEscapeClosesItAndNothingHappens(self):
         self.start("milk")
         hands.rightClick(self.row("milk").point())
-        self.menus.menu()
+        self.menus.waitUntilOpen()
         hands.press("Escape")
         self.menus.waitUntilClosed()
         hands.enter("tea")
         self.expectDay(today=["milk", "tea"])
+
+    def testThePinOfTheRowUnderThePointerPinsAndUnpins(self):
+        self.start("milk", "bread")
+        for button, today in [("Pin to top", ["bread!", "milk"]), ("Unpin", ["bread", "milk"])]:
+            with self.subTest(button):
+                hands.moveTo(self.row("bread").point())
+                hands.click(self.row("bread").find("button", button).point())
+                self.expectDay(today=today)
 
 
 if __name__ == "__main__":

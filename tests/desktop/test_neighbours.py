@@ -39,7 +39,6 @@ class Neighbours(DesktopCase):
         file = Path(os.environ["XDG_STATE_HOME"]) / "brimle/notifications"
         file.parent.mkdir(exist_ok=True)
         file.write_text(f"{dayKey()} 0\tarrival-x\tmilk\tOn your list today.\n", encoding="utf-8")
-        self.addCleanup(file.unlink)
 
     def expectInUse(self):
         """The entry field takes a task, and the day file has it."""

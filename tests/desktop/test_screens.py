@@ -40,7 +40,6 @@ class Screens(DesktopCase):
         file = DESKTOP.home / "config/brimle/settings.ini"
         file.parent.mkdir(exist_ok=True)
         file.write_text(f"[General]\nNSWindow%20Frame%20TodayWindow={numbers}\n", encoding="utf-8")
-        self.addCleanup(file.unlink)
 
     def box(self):
         return hands.boxOf(hands.windowOf(self._program))

@@ -31,7 +31,8 @@ class Selecting(DesktopCase):
         self.select(("milk", None))
         self.expectSelected("milk")
         for key, selected in [("Down", ["bread"]), ("shift+Down", ["bread", "tea"]), ("shift+Up", ["bread"]),
-                              ("Up", ["milk"]), ("Up", ["milk"]), ("ctrl+a", ["milk", "bread", "tea"]), ("Down", ["tea"])]:
+                              ("Up", ["milk"]), ("Up", ["milk"]), ("ctrl+a", ["milk", "bread", "tea"]),
+                              ("Down", ["tea"])]:
             with self.subTest(key):
                 hands.press(key)
                 self.expectSelected(*selected)
@@ -72,7 +73,7 @@ class Selecting(DesktopCase):
         self.start("milk", "bread", "tea")
         self.select(("milk", None), ("bread", "ctrl"))
         self.expectSelected("milk", "bread")
-        hands.click(self.row("bread").find("check box", "Tick").point())
+        hands.click(self.row("bread").find("button", "Tick").point())
         self.expectDay(today=["tea"], archive=[f"{dayKey()} milk+", f"{dayKey()} bread+"])
 
 

@@ -1,6 +1,5 @@
 """Settings and folders in every bad state: the program starts with what can be read of them, and works."""
 import os
-import shutil
 import unittest
 from pathlib import Path
 
@@ -19,13 +18,6 @@ class Settings(DesktopCase):
     def setUp(self):
         self.folder = Path(os.environ["XDG_CONFIG_HOME"]) / "brimle"
         self.file = self.folder / "settings.ini"
-        self.addCleanup(self.clear)
-
-    def clear(self):
-        if self.folder.is_file():
-            self.folder.unlink()
-        else:
-            shutil.rmtree(self.folder, ignore_errors=True)
 
     def expectInUse(self):
         hands.enter("tea")

@@ -1,6 +1,6 @@
 """Another program on the desktop: a window with a plain text in it that can be dragged out of it and dropped into it.
 Started with the text and the place of the window, and run until it is ended. Its title tells when a drag over it has been
-answered, and when a drag out of it is welcome where it is.
+answered, and when its first drag out of it, its second and so on is welcome where it is.
 
     text_window.py "two\nlines" 850 200
 """
@@ -16,6 +16,7 @@ class TextWindow(Gtk.Window):
     def __init__(self, text, left, top):
         super().__init__(title="Text")
         self._positions = set()
+        self._dragsOut = 0
         self._view = Gtk.TextView(left_margin=10, top_margin=10)
         buffer = self._view.get_buffer()
         buffer.set_text(text)
@@ -37,8 +38,9 @@ class TextWindow(Gtk.Window):
         return False
 
     def _dragOut(self, _view, context):
+        self._dragsOut += 1
         context.connect("action-changed", lambda _context, action: self.set_title(
-            "Text, welcome" if action else "Text, unwelcome"))
+            f"Text, {'welcome' if action else 'unwelcome'} {self._dragsOut}"))
 
 
 window = TextWindow(sys.argv[1], *map(int, sys.argv[2:]))

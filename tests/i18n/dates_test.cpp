@@ -124,6 +124,13 @@ TEST_F(DaysInWords, CountsTakeEachLanguagesWord) {
   }
 }
 
+TEST_F(DaysInWords, NoLanguageCountsInEnglishByNeglect) {
+  for (const I18n::Language& language : I18n::languages()) {
+    I18n::setLang(std::string(language.code));
+    EXPECT_EQ(I18n::tasksCount(2) == "2 tasks", language.code == "en") << language.code;
+  }
+}
+
 TEST_F(DaysInWords, OnlyExactlyOneIsSingularAndDigitsAreNotGrouped) {
   EXPECT_EQ(I18n::tasksCount(0), "0 tasks");
   EXPECT_EQ(I18n::tasksCount(-1), "-1 tasks");

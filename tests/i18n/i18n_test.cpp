@@ -100,5 +100,11 @@ TEST(ResolvingTheLanguageSetting, TakesSystemFromTheFirstPreferredTagAlone) {
   }
 }
 
+TEST(ResolvingTheLanguageSetting, KnowsEveryLanguageByItsOwnTag) {
+  for (const I18n::Language& language : I18n::languages()) {
+    EXPECT_EQ(I18n::resolve("system", {std::string(language.code)}), language.code);
+  }
+}
+
 }  // namespace
 }  // namespace brimle

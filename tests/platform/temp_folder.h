@@ -8,8 +8,8 @@
 namespace brimle {
 
 struct TempFolder {
-  TempFolder() {
-    std::string name = std::filesystem::temp_directory_path() / "brimle-test-XXXXXX";
+  explicit TempFolder(const std::filesystem::path& parent = std::filesystem::temp_directory_path()) {
+    std::string name = parent / "brimle-test-XXXXXX";
     if (::mkdtemp(name.data()) == nullptr) std::abort();
     path = name;
   }

@@ -5,46 +5,51 @@
 #include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusConnectionInterface>
+#include <QDBusMessage>
 #include <QDBusPendingCall>
 #include <QDBusVariant>
 #include <QTest>
+#include <QtEndian>
 
 namespace brimle {
 namespace {
 
+constexpr int kPatience = 60'000;  // milliseconds; only a broken machine needs them
 constexpr auto kWatcher = "org.kde.StatusNotifierWatcher";
 constexpr auto kWatcherPath = "/StatusNotifierWatcher";
 constexpr auto kItem = "org.kde.StatusNotifierItem";
 constexpr auto kItemPath = "/StatusNotifierItem";
-constexpr auto kMenu = "com.canonical.dbusmenu";
-constexpr auto kProperties = "org.freedesktop.DBus.Properties";
 constexpr auto kPortal = "org.freedesktop.portal.Desktop";
 
-QImage imageOf(int width, int height, const QByteArray& bigEndian) {
-  QImage image(width, height, QImage::Format_ARGB32);
-  for (int i = 0; i < width * height; ++i) {
-    const auto byte = [&](int n) { return static_cast<uchar>(bigEndian[4 * i + n]); };
-    image.setPixel(i % width, i / width, qRgba(byte(1), byte(2), byte(3), byte(0)));
-  }
-  return image;
+/// A value of the bus with its structures and arrays as lists.
+QVariant plain(const QVariant& value) {
+  if (value.metaType() == QMetaType::fromType<QDBusVariant>())
+    return plain(value.value<QDBusVariant>().variant());
+  if (value.metaType() != QMetaType::fromType<QDBusArgument>()) return value;
+  const auto argument = value.value<QDBusArgument>();
+  if (argument.currentType() == QDBusArgument::MapType) return qdbus_cast<QVariantMap>(argument);
+  const bool isArray = argument.currentType() == QDBusArgument::ArrayType;
+  isArray ? argument.beginArray() : argument.beginStructure();
+  QVariantList parts;
+  while (!argument.atEnd()) parts.append(plain(argument.asVariant()));
+  isArray ? argument.endArray() : argument.endStructure();
+  return parts;
 }
 
-PanelRow rowOf(const QDBusArgument& argument) {
-  PanelRow row;
-  QVariantMap properties;
-  argument.beginStructure();
-  argument >> row.id >> properties;
-  argument.endStructure();
-  if (properties["type"] != "separator") row.label = properties["label"].toString().toStdString();
-  row.enabled = properties.value("enabled", true).toBool();
-  if (!properties["toggle-type"].toString().isEmpty()) row.checked = properties["toggle-state"].toInt();
-  return row;
+std::string rowText(const QVariantMap& properties) {
+  if (properties["type"] == "separator") return "-";
+  const std::string label = properties["label"].toString().toStdString();
+  if (!properties.value("enabled", true).toBool()) return "(" + label + ")";
+  return properties["toggle-state"] == 1 ? "x " + label : label;
 }
 
 }  // namespace
 
 Panel::Panel() : bus_(QDBusConnection::connectToBus(QDBusConnection::SessionBus, "panel")) {
-  connect(&watcher_, &Watcher::registered, this, &Panel::noteRegistered);
+  connect(&watcher_, &Watcher::registered, this, [this](const QString& service) {
+    item_ = service;
+    ++registrations;
+  });
   watcher_.moveToThread(&thread_);
   thread_.start();
   bus_.registerObject(kWatcherPath, &watcher_,
@@ -59,7 +64,7 @@ Panel::~Panel() {
 }
 
 void Panel::start(bool withHost) {
-  watcher_.setHost(withHost);
+  watcher_.hasHost = withHost;
   if (!bus_.registerService(kWatcher)) qFatal("the panel cannot be on the bus");
 }
 
@@ -68,13 +73,8 @@ void Panel::stop() {
 }
 
 void Panel::gainHost() {
-  watcher_.setHost(true);
+  watcher_.hasHost = true;
   bus_.send(QDBusMessage::createSignal(kWatcherPath, kWatcher, "StatusNotifierHostRegistered"));
-}
-
-void Panel::noteRegistered(const QString& service) {
-  item = service;
-  ++registrations;
 }
 
 void Panel::awaitRegistrations(int count) {
@@ -103,86 +103,69 @@ void Panel::prefer(uint colorScheme) {
   settle();
   QDBusMessage signal = QDBusMessage::createSignal("/org/freedesktop/portal/desktop",
                                                    "org.freedesktop.portal.Settings", "SettingChanged");
-  signal << "org.freedesktop.appearance"
-         << "color-scheme" << QVariant::fromValue(QDBusVariant(colorScheme));
+  signal.setArguments(
+      {"org.freedesktop.appearance", "color-scheme", QVariant::fromValue(QDBusVariant(colorScheme))});
   bus_.send(signal);
   settle();
 }
 
 QVariantList Panel::ask(const QString& path, const char* interface, const char* method,
                         const QVariantList& arguments) {
-  QDBusMessage message = QDBusMessage::createMethodCall(item, path, interface, method);
+  QDBusMessage message = QDBusMessage::createMethodCall(item_, path, interface, method);
   message.setArguments(arguments);
   const QDBusPendingCall answer = bus_.asyncCall(message);
   EXPECT_TRUE(QTest::qWaitFor([&] { return answer.isFinished(); }, kPatience)) << method;
   EXPECT_FALSE(answer.isError()) << method << ": " << answer.error().message().toStdString();
-  return answer.reply().arguments();
+  QVariantList parts;
+  for (const QVariant& part : answer.reply().arguments()) parts.append(plain(part));
+  return parts;
 }
 
 QVariant Panel::property(const char* name) {
-  return ask(kItemPath, kProperties, "Get", {kItem, name}).value(0).value<QDBusVariant>().variant();
+  return ask(kItemPath, "org.freedesktop.DBus.Properties", "Get", {kItem, name}).value(0);
+}
+
+QImage Panel::icon(int side) {
+  for (const QVariant& picture : property("IconPixmap").toList()) {
+    const QVariantList parts = picture.toList();  // width, height, pixels
+    const QByteArray pixels = parts[2].toByteArray();
+    if (parts[0] != side || parts[1] != side || pixels.size() != 4 * side * side) continue;
+    QImage image(side, side, QImage::Format_ARGB32);
+    qFromBigEndian<quint32>(pixels.constData(), side * side, image.bits());
+    return image;
+  }
+  return {};
+}
+
+std::string Panel::tooltip() {
+  return property("ToolTip").toList().value(2).toString().toStdString();
 }
 
 void Panel::call(const char* method, const QVariantList& arguments) {
   ask(kItemPath, kItem, method, arguments);
 }
 
-QImage Panel::icon(int side) {
-  QImage found;
-  const auto pictures = property("IconPixmap").value<QDBusArgument>();
-  pictures.beginArray();
-  while (!pictures.atEnd()) {
-    int width = 0, height = 0;
-    QByteArray bytes;
-    pictures.beginStructure();
-    pictures >> width >> height >> bytes;
-    pictures.endStructure();
-    if (width == side && bytes.size() == 4 * width * height) found = imageOf(width, height, bytes);
-  }
-  return found;
-}
-
-std::string Panel::tooltip() {
-  const auto tooltip = property("ToolTip").value<QDBusArgument>();
-  QString iconName, title;
-  tooltip.beginStructure();
-  tooltip >> iconName;
-  tooltip.beginArray();  // its pictures
-  while (!tooltip.atEnd()) {
-    int side = 0;
-    QByteArray bytes;
-    tooltip.beginStructure();
-    tooltip >> side >> side >> bytes;
-    tooltip.endStructure();
-  }
-  tooltip.endArray();
-  tooltip >> title;
-  return title.toStdString();
-}
-
 QVariantList Panel::askMenu(const char* method, const QVariantList& arguments) {
-  return ask(property("Menu").value<QDBusObjectPath>().path(), kMenu, method, arguments);
+  return ask(property("Menu").value<QDBusObjectPath>().path(), "com.canonical.dbusmenu", method, arguments);
 }
 
-std::vector<PanelRow> Panel::menuRows(bool willOpen) {
-  if (willOpen) askMenu("AboutToShow", {0});
-  const auto layout = askMenu("GetLayout", {0, -1, QStringList()}).value(1).value<QDBusArgument>();
-  int id = 0;
-  QVariantMap properties;
-  std::vector<PanelRow> rows;
-  layout.beginStructure();
-  layout >> id >> properties;
-  layout.beginArray();
-  while (!layout.atEnd()) {
-    QDBusVariant row;
-    layout >> row;
-    rows.push_back(rowOf(row.variant().value<QDBusArgument>()));
+void Panel::openMenu() {
+  askMenu("AboutToShow", {0});
+}
+
+std::vector<std::string> Panel::menuRows() {
+  const QVariantList menu = askMenu("GetLayout", {0, -1, QStringList()}).value(1).toList();
+  std::vector<std::string> rows;
+  rowIds_.clear();
+  for (const QVariant& row : menu.value(2).toList()) {
+    rowIds_.append(row.toList()[0]);
+    rows.push_back(rowText(row.toList()[1].toMap()));
   }
   return rows;
 }
 
 void Panel::choose(int row) {
-  askMenu("Event", {row, "clicked", QVariant::fromValue(QDBusVariant(0)), 0u});
+  askMenu("Event", {rowIds_.at(row), "clicked", QVariant::fromValue(QDBusVariant(0)), 0u});
 }
 
 }  // namespace brimle

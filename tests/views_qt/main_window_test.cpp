@@ -24,7 +24,7 @@ class MainWindowTest : public StoreTest {
     open(document("A B"));
     view.emplace(*store, time);
     archive.emplace(*store, sel, ui, time);
-    main.emplace(Today::Parts{*store, *view, *archive, ui, sel, time, todayFocusAdd}, pasteboard);
+    main.emplace(Today::Parts{*store, *view, *archive, ui, sel, time, todayFocusAdd, links}, pasteboard);
     main->theme().setReduceMotion(true);
     app.emplace(
         AppDelegate::Ports{time, desktop, preferences, pasteboard, center, application, *main, main->menus(),
@@ -151,12 +151,12 @@ TEST_F(MainWindowTest, LeavesReturnToAnInputMethodThatComposes) {
 }
 
 TEST_F(MainWindowTest, TicksATaskByItsDotAndSweepsItAfterAPause) {
-  const auto dot = [&](std::size_t row) { return items(QAccessible::CheckBox, 2).at(row); };
+  const auto dot = [&](std::size_t row) { return items(QAccessible::Button, 6).at(4 + row); };
   const auto sweeping = [&] { return items(QAccessible::ListItem, 2).at(1)->property("sweeping").toBool(); };
   for (const std::size_t row : {0, 0, 1}) click(dot(row));
   EXPECT_EQ(state(), "A B+");
   expectSaved();
-  EXPECT_EQ(names(QAccessible::CheckBox, 2), "Tick Untick ");
+  EXPECT_EQ(names(QAccessible::Button, 6), "Close Minimise Menu Archive Tick Untick ");
   time.advance(Seconds(0.89));
   EXPECT_FALSE(sweeping());
   time.advance(Seconds(0.01));
@@ -164,6 +164,33 @@ TEST_F(MainWindowTest, TicksATaskByItsDotAndSweepsItAfterAPause) {
   time.advance(Seconds(0.32));
   EXPECT_EQ(names(QAccessible::ListItem, 1), "A ");
   EXPECT_EQ(state(), "A |  |  | 15:B+");
+}
+
+TEST_F(MainWindowTest, SlidesASweptRowOut) {
+  main->theme().setReduceMotion(false);
+  QQuickItem* dot = items(QAccessible::Button, 6).at(5);
+  const auto place = [&] { return dot->mapToScene({}).x(); };
+  const double before = place();
+  click(dot);
+  time.advance(Seconds(0.9));
+  EXPECT_LT(place(), before + 600);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return place() == before + 600; }));
+}
+
+TEST_F(MainWindowTest, DarkensAWordWhileThePointerIsOverIt) {
+  const auto buttons = items(QAccessible::Button, 4);
+  const auto word =
+      std::ranges::find_if(buttons, [](auto* item) { return item->property("text") == "Archive"; });
+  ASSERT_NE(word, buttons.end());
+  const auto colour = [&] { return (*word)->property("color").value<QColor>().rgba(); };
+  const QPoint over = (*word)->mapToScene({4, 4}).toPoint();
+  const QPoint beside = over + QPoint(0, 100);
+  const Theme& theme = main->theme();
+  QTest::mouseMove(window, over);
+  EXPECT_EQ(colour(), theme.primary().rgba());
+  QTest::mouseClick(window, Qt::LeftButton, {}, over);
+  QTest::mouseMove(window, beside);
+  EXPECT_EQ(colour(), theme.secondary().rgba());
 }
 
 TEST_F(MainWindowTest, UndoesTypingFirstAndThenWhatWasDone) {
@@ -219,6 +246,19 @@ TEST_F(MainWindowTest, EditsATaskAndItsNotesInPlace) {
   EXPECT_EQ(state(), "A |  | 20:B b'!/n");
   EXPECT_EQ(names(QAccessible::ListItem, 1), "A ");
   expectSaved();
+}
+
+TEST_F(MainWindowTest, LeavesATextTheWholeLineWhereTheHintOfItsDateTakesTooMuch) {
+  click(items(QAccessible::ListItem, 2).at(0));
+  QTest::keyClick(window, Qt::Key_Return);
+  const auto editor = [&] { return window->activeFocusItem(); };
+  ASSERT_TRUE(QTest::qWaitFor([&] { return editor() && editor()->property("text") == "A"; }));
+  const double line = editor()->width();
+  type(" >20/6");
+  EXPECT_LT(editor()->width(), line - 50) << "the hint stands beside the text";
+  QTest::keyClick(window, Qt::Key_Home);
+  type("a text of some length ");
+  EXPECT_EQ(editor()->width(), line) << "the hint stands below";
 }
 
 TEST_F(MainWindowTest, SelectsByClicksAndWalksByKeys) {

@@ -32,47 +32,31 @@ auto retried(Call call) {
   return result;
 }
 
-bool isFolder(const Path& path) {
-  std::error_code error;
-  return fs::is_directory(path, error);
-}
-
-/// Where a path leads through all links, be it to a place still empty; nothing for a ring of links.
-std::optional<Path> followLinks(Path path) {
-  for (int links = 0; links <= kMostLinks; ++links) {
-    std::error_code notALink;
-    const Path target = fs::read_symlink(path, notALink);
-    if (notALink) return path;
-    path = path.parent_path() / target;
-  }
-  return std::nullopt;
-}
+constexpr std::string_view kBefore = ".", kAfter = ".tmp";  // around a file's name in its temporary's
 
 Path temporaryFor(const Path& target) {
-  return target.parent_path() / ("." + target.filename().string() + ".tmp");
-}
-
-/// All bytes of an open regular file, which may grow meanwhile or, like those of /proc, tell no size.
-std::optional<std::string> readAll(int file) {
-  struct stat status {};
-  if (::fstat(file, &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
-  std::string bytes(static_cast<std::size_t>(status.st_size) + kSlack, '\0');
-  std::size_t filled = 0;
-  while (true) {
-    const ssize_t count = retried([&] { return ::read(file, bytes.data() + filled, bytes.size() - filled); });
-    if (count < 0) return std::nullopt;
-    if (count == 0) break;
-    filled += static_cast<std::size_t>(count);
-    if (bytes.size() - filled < kSlack) bytes.resize(2 * bytes.size());
-  }
-  bytes.resize(filled);
-  return bytes;
+  std::string name(kBefore);
+  name += target.filename().string();
+  name += kAfter;
+  return target.parent_path() / name;
 }
 
 }  // namespace
 
+int FileCalls::stat(const char* path, struct stat* status) {
+  return ::stat(path, status);
+}
+ssize_t FileCalls::readlink(const char* path, char* target, std::size_t size) {
+  return ::readlink(path, target, size);
+}
 int FileCalls::open(const char* path, int flags, mode_t mode) {
   return ::open(path, flags, mode);
+}
+int FileCalls::fstat(int file, struct stat* status) {
+  return ::fstat(file, status);
+}
+ssize_t FileCalls::read(int file, void* bytes, std::size_t size) {
+  return ::read(file, bytes, size);
 }
 int FileCalls::fchmod(int file, mode_t mode) {
   return ::fchmod(file, mode);
@@ -92,18 +76,25 @@ int FileCalls::rename(const char* from, const char* to) {
 int FileCalls::unlink(const char* path) {
   return ::unlink(path);
 }
+int FileCalls::rmdir(const char* path) {
+  return ::rmdir(path);
+}
+int FileCalls::mkdir(const char* path, mode_t mode) {
+  return ::mkdir(path, mode);
+}
 
 PosixFiles::PosixFiles() : calls_(systemCalls()) {}
 
 bool PosixFiles::exists(const Path& path) const {
-  std::error_code error;
-  return fs::exists(path, error);
+  struct stat status {};
+  return retried([&] { return calls_.stat(path.c_str(), &status); }) == 0 ||
+         (errno != ENOENT && errno != ENOTDIR);
 }
 
 std::optional<std::string> PosixFiles::read(const Path& path) const {
   // Without O_NONBLOCK, opening a pipe would wait for its writer.
-  const int file =
-      retried([&] { return ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC); });
+  constexpr int kFlags = O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+  const int file = retried([&] { return calls_.open(path.c_str(), kFlags, 0); });
   if (file < 0) return std::nullopt;
   std::optional<std::string> bytes;
   try {
@@ -111,7 +102,26 @@ std::optional<std::string> PosixFiles::read(const Path& path) const {
   } catch (const std::exception&) {
     // The file is larger than memory.
   }
-  ::close(file);
+  calls_.close(file);
+  return bytes;
+}
+
+/// All bytes of an open regular file, which may grow meanwhile or, like those of /proc, tell no size.
+std::optional<std::string> PosixFiles::readAll(int file) const {
+  struct stat status {};
+  if (retried([&] { return calls_.fstat(file, &status); }) != 0 || !S_ISREG(status.st_mode))
+    return std::nullopt;
+  std::string bytes(static_cast<std::size_t>(status.st_size) + kSlack, '\0');
+  std::size_t filled = 0;
+  while (true) {
+    const ssize_t count =
+        retried([&] { return calls_.read(file, bytes.data() + filled, bytes.size() - filled); });
+    if (count < 0) return std::nullopt;
+    if (count == 0) break;
+    filled += static_cast<std::size_t>(count);
+    if (bytes.size() - filled < kSlack) bytes.resize(2 * bytes.size());
+  }
+  bytes.resize(filled);
   return bytes;
 }
 
@@ -129,9 +139,14 @@ bool PosixFiles::createFolders(const Path& folder) {
   Path made;
   for (const Path& part : folder) {
     made /= part;
-    if (!isFolder(made) && ::mkdir(made.c_str(), 0700) != 0 && errno != EEXIST) return false;
+    if (!isFolder(made) && calls_.mkdir(made.c_str(), 0700) != 0 && errno != EEXIST) return false;
   }
   return isFolder(folder);
+}
+
+bool PosixFiles::isFolder(const Path& path) const {
+  struct stat status {};
+  return retried([&] { return calls_.stat(path.c_str(), &status); }) == 0 && S_ISDIR(status.st_mode);
 }
 
 bool PosixFiles::rename(const Path& from, const Path& to) {
@@ -139,14 +154,14 @@ bool PosixFiles::rename(const Path& from, const Path& to) {
 }
 
 bool PosixFiles::remove(const Path& path) {
-  return ::remove(path.c_str()) == 0;
+  return calls_.unlink(path.c_str()) == 0 || calls_.rmdir(path.c_str()) == 0;
 }
 
 bool PosixFiles::replace(const Path& path, std::span<const std::string_view> pieces) {
   const std::optional<Path> target = followLinks(path);
   if (!target) return false;
   struct stat old {};
-  const bool replaces = ::stat(target->c_str(), &old) == 0;
+  const bool replaces = retried([&] { return calls_.stat(target->c_str(), &old); }) == 0;
   if (replaces ? !S_ISREG(old.st_mode) : errno != ENOENT) return false;
 
   const Path temporary = temporaryFor(*target);
@@ -159,6 +174,25 @@ bool PosixFiles::replace(const Path& path, std::span<const std::string_view> pie
 
 void PosixFiles::removeLeftovers(const Path& path) {
   if (const auto target = followLinks(path)) calls_.unlink(temporaryFor(*target).c_str());
+}
+
+void PosixFiles::removeLeftoversIn(const Path& folder, std::string_view prefix) {
+  const std::string begin = std::string(kBefore).append(prefix);
+  for (const std::string& name : list(folder).value_or(std::vector<std::string>{})) {
+    if (name.starts_with(begin) && name.ends_with(kAfter)) calls_.unlink((folder / name).c_str());
+  }
+}
+
+/// Where a path leads through all links, be it to a place still empty; nothing for a ring of links, or where
+/// it cannot be told whether a link is there.
+std::optional<Path> PosixFiles::followLinks(Path path) const {
+  char target[PATH_MAX];
+  for (int links = 0; links <= kMostLinks; ++links) {
+    const ssize_t length = retried([&] { return calls_.readlink(path.c_str(), target, sizeof target); });
+    if (length < 0) return errno == EINVAL || errno == ENOENT ? std::optional(path) : std::nullopt;
+    path = path.parent_path() / std::string_view(target, static_cast<std::size_t>(length));
+  }
+  return std::nullopt;
 }
 
 /// Makes a file that is not there yet, and has it on the disk when it returns true.
@@ -176,7 +210,7 @@ bool PosixFiles::write(const Path& temporary, std::span<const std::string_view> 
 
 bool PosixFiles::setMode(int file, mode_t mode) {
   struct stat made {};
-  if (::fstat(file, &made) != 0) return false;
+  if (retried([&] { return calls_.fstat(file, &made); }) != 0) return false;
   // File systems without modes of their own refuse any change but show the same mode for every file.
   if ((made.st_mode & kModeBits) == mode) return true;
   return retried([&] { return calls_.fchmod(file, mode); }) == 0;

@@ -5,6 +5,7 @@
 // never synced, so right after a power cut the file may still be the old one. Nothing is kept between calls.
 #pragma once
 
+#include <sys/stat.h>
 #include <sys/types.h>
 #include <sys/uio.h>
 
@@ -12,19 +13,25 @@
 
 namespace brimle {
 
-/// The system calls behind `replace`: arguments, results and errno are theirs. A test derives from this to
-/// make one of them fail.
+/// The system calls behind all but `list`: arguments, results and errno are theirs. A test derives from this
+/// to make one of them fail.
 class FileCalls {
  public:
   virtual ~FileCalls() = default;
 
+  virtual int stat(const char* path, struct stat* status);
+  virtual ssize_t readlink(const char* path, char* target, std::size_t size);
   virtual int open(const char* path, int flags, mode_t mode);
+  virtual int fstat(int file, struct stat* status);
+  virtual ssize_t read(int file, void* bytes, std::size_t size);
   virtual int fchmod(int file, mode_t mode);
   virtual ssize_t writev(int file, const iovec* pieces, int count);
   virtual int fdatasync(int file);
   virtual int close(int file);
   virtual int rename(const char* from, const char* to);
   virtual int unlink(const char* path);
+  virtual int rmdir(const char* path);
+  virtual int mkdir(const char* path, mode_t mode);
 };
 
 class PosixFiles : public Files {
@@ -45,8 +52,12 @@ class PosixFiles : public Files {
   /// Refuses to take the place of anything but a regular file.
   bool replace(const Path& path, std::span<const std::string_view> pieces) override;
   void removeLeftovers(const Path& path) override;
+  void removeLeftoversIn(const Path& folder, std::string_view prefix) override;
 
  private:
+  bool isFolder(const Path& path) const;
+  std::optional<Path> followLinks(Path path) const;
+  std::optional<std::string> readAll(int file) const;
   bool write(const Path& temporary, std::span<const std::string_view> pieces, std::optional<mode_t> mode);
   bool setMode(int file, mode_t mode);
   bool writeAll(int file, std::span<const std::string_view> pieces);

@@ -125,6 +125,13 @@ void drawFigures(QPainter& painter, const std::vector<const char*>& figures, int
   }
 }
 
+/// Hardly seen on the panel that the ink is for, and what makes it readable on any other.
+QColor groundFor(const QColor& ink) {
+  QColor ground = ink.lightness() < 128 ? Qt::white : Qt::black;
+  ground.setAlphaF(0.4F);
+  return ground;
+}
+
 }  // namespace
 
 QImage statusPicture(int side, long long count, const QColor& ink) {
@@ -134,7 +141,9 @@ QImage statusPicture(int side, long long count, const QColor& ink) {
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(ink, pen, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+  painter.setBrush(groundFor(ink));
   painter.drawEllipse(QRectF(pen / 2, pen / 2, side - pen, side - pen));
+  painter.setBrush(Qt::NoBrush);
   const std::vector<const char*> figures = figuresOf(count);
   if (!figures.empty()) drawFigures(painter, figures, side, pen);
   return image;

@@ -1,5 +1,6 @@
-// The picture of the status item: a ring with a number in it, in one colour on nothing. The figures are drawn
-// by lines of its own, set to whole pixels at every size, so that two of them can be read at 16 pixels.
+// The picture of the status item: a ring with a number in it, in one colour. The figures are drawn by lines
+// of its own, set to whole pixels at every size, so that two of them can be read at 16 pixels; a faint ground
+// in the ring lets them be read also on a panel of the colour's own brightness.
 #pragma once
 
 #include <QColor>

@@ -25,8 +25,10 @@ constexpr auto kToken = "XDG_ACTIVATION_TOKEN";
 constexpr QRgb kDarkInk = qRgb(0x2b, 0x2b, 0x2b);
 constexpr QRgb kLightInk = qRgb(0xf2, 0xf2, 0xf2);
 
-/// Desktops whose panel is dark also where windows are light, by the name they give themselves first.
-constexpr std::array kDarkPanels{"GNOME", "ubuntu", "pop", "Unity", "X-Cinnamon"};
+/// Desktops whose panel is dark as a rule also where windows are light, by the name they give themselves
+/// first.
+constexpr std::array kDarkPanels{"GNOME", "ubuntu", "pop",  "Unity",   "X-Cinnamon",
+                                 "XFCE",  "Budgie", "sway", "Hyprland"};
 
 bool hasDarkPanel(const QString& desktopNames) {
   const QString name = desktopNames.section(':', 0, 0);

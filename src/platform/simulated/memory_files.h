@@ -36,6 +36,7 @@ class MemoryFiles : public Files {
   bool replace(const Path& path, std::span<const std::string_view> pieces) override;
   /// A replace leaves nothing behind here.
   void removeLeftovers(const Path&) override {}
+  void removeLeftoversIn(const Path&, std::string_view) override {}
 
  private:
   struct Written {

@@ -17,7 +17,12 @@ Item {
         cacheBuffer: 200
 
         // A timeline shorter than the window is padded, so that the boundary can stand at the top.
-        footer: Item { height: Math.max(0, list.height - 60) }
+        footer: Item { height: Math.max(0, list.height - list.lowestRow * (list.count - page.archive.boundary)) }
+        readonly property real lowestRow: 20
+
+        // A search shows what it found, below the boundary.
+        readonly property string query: page.archive.query
+        onQueryChanged: Qt.callLater(list.showBoundary) // qmllint disable
 
         Accessible.role: Accessible.List
         Accessible.name: Texts.of["Archive"]
@@ -32,6 +37,9 @@ Item {
         // Tab walks from the list over the scheduled tasks to the search.
         Keys.onTabPressed: visitScheduled(-1, 1)
 
+        /// Between the boundary's row and what is drawn of it.
+        readonly property real gapAbove: page.archive.boundary > 0 ? 16 : 0
+
         function visitScheduled(from, step) {
             const row = page.archive.nextScheduled(from, step)
             if (row < 0) return step > 0 ? search.takeKeyboard() : takeKeyboard()
@@ -41,12 +49,14 @@ Item {
         }
         function showBoundary() {
             positionViewAtIndex(page.archive.boundary, ListView.Beginning)
+            contentY += gapAbove
         }
         function watchBoundary() {
             const boundary = itemAtIndex(page.archive.boundary)
             // Out of reach it is either below what is visible, which is then the future, or above.
-            if (boundary) page.archive.boundaryMoved(boundary.y - contentY)
-            else page.archive.boundaryMoved(indexAt(0, contentY) < page.archive.boundary ? height : -height)
+            if (boundary) return page.archive.boundaryMoved(boundary.y + gapAbove - contentY)
+            const top = indexAt(width / 2, contentY)
+            page.archive.boundaryMoved(top >= 0 && top < page.archive.boundary ? height : -height)
         }
 
         onContentYChanged: watchBoundary()

@@ -11,12 +11,9 @@ Item {
     width: 24
     height: 24
 
-    Accessible.role: Accessible.CheckBox
+    Accessible.role: Accessible.Button
     Accessible.name: done ? Texts.of["Untick"] : Texts.of["Tick"]
-    Accessible.checkable: true
-    Accessible.checked: done
     Accessible.onPressAction: triggered()
-    Accessible.onToggleAction: triggered()
 
     Rectangle {
         anchors.centerIn: parent

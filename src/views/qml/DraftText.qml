@@ -29,6 +29,10 @@ Item {
         color: draft.color
         font { family: Theme.fontFamily; pixelSize: Math.round(draft.size * Theme.textScale) }
 
+        Accessible.ignored: !draft.isNote
+        Accessible.role: Accessible.StaticText
+        Accessible.name: Texts.of["Note"] + ": " + text
+
         TapHandler { onDoubleTapped: draft.opened() }
     }
 
@@ -46,7 +50,10 @@ Item {
             onDismissed: draft.archive.cancel()
             onFocusLost: if (draft.editing) draft.archive.commit()
             Keys.onDownPressed: draft.archive.walkDown()
-            Keys.onTabPressed: if (!draft.isNote) draft.archive.walkDown()
+            Keys.onTabPressed: (event) => {
+                event.accepted = !draft.isNote
+                if (!draft.isNote) draft.archive.walkDown()
+            }
             Keys.onUpPressed: draft.archive.walkUp()
         }
     }

@@ -8,6 +8,8 @@ Rectangle {
     required property Today today
     required property real tallest
 
+    function takeKeyboard() { edit.forceActiveFocus() }
+
     implicitHeight: scroller.height + 16
     radius: 8
     color: Theme.faded(Theme.primary, edit.activeFocus ? 0.08 : 0.05)
@@ -25,9 +27,9 @@ Rectangle {
         x: 28
         y: 8
         width: parent.width - 38
-        height: Math.min(edit.contentHeight, Math.max(field.tallest, edit.cursorRectangle.height))
+        height: Math.min(edit.height, Math.max(field.tallest, edit.cursorRectangle.height))
         contentWidth: width
-        contentHeight: edit.contentHeight
+        contentHeight: edit.height
         clip: contentHeight > height
         interactive: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
@@ -41,6 +43,9 @@ Rectangle {
         TextEdit {
             id: edit
             width: scroller.width
+            // Scripts with a typeface of their own stand taller than an empty line; the field is as tall from the start.
+            height: Math.max(contentHeight, placeholder.implicitHeight)
+            verticalAlignment: TextEdit.AlignVCenter
             focus: true
             activeFocusOnTab: true
             textFormat: TextEdit.PlainText
@@ -92,7 +97,7 @@ Rectangle {
         anchors.fill: parent
         onDropped: (drop) => {
             drop.accept(Qt.CopyAction)
-            if (field.today.draggingId !== "" || drop.text.length > 16384) return field.today.dropText(drop.text)
+            if (!field.today.fieldTakes(drop.text)) return field.today.dropText(drop.text)
             edit.insert(edit.cursorPosition, drop.text)
             edit.forceActiveFocus()
         }

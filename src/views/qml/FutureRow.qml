@@ -19,6 +19,10 @@ Item {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: text
+    Accessible.focusable: true
+    Accessible.onPressAction: archive.beginEdit(key)
+
+    readonly property bool takesKeys: true
 
     /// Asks for the next scheduled task, or with -1 for the one before.
     signal stepped(step: int)

@@ -7,6 +7,8 @@ Symbol {
 
     required property string symbol
     required property string label
+    /// Space and Return are its own while it has the keyboard.
+    readonly property bool takesKeys: true
     signal triggered
 
     name: symbol

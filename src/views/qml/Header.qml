@@ -19,16 +19,16 @@ Item {
     readonly property real besides: (count.text === "" ? 0 : count.implicitWidth + gap)
         + (tomorrow.text === "" ? 0 : tomorrow.implicitWidth + gap) + turn.implicitWidth + gap
     readonly property bool oneLine: folded || title.implicitWidth + besides <= room
-    readonly property real roomForCount: turn.x - gap - count.x
-        - (tomorrow.visible && oneLine ? tomorrow.implicitWidth + gap : 0)
 
     implicitHeight: folded ? 34 : (oneLine ? title.y + title.height : count.y + count.height) + 8
 
     Accessible.role: Accessible.Grouping
     Accessible.name: title.text
 
-    TapHandler {
-        onDoubleTapped: header.today.toggleCompact()
+    WindowMover {
+        anchors.fill: parent
+        target: header.Window.window
+        onDoubleClicked: header.today.toggleCompact()
     }
     Hint {
         target: header
@@ -50,6 +50,7 @@ Item {
         color: Theme.primary
         font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize + 1) * Theme.textScale); weight: Font.DemiBold }
 
+        readonly property bool takesKeys: true
         activeFocusOnTab: true
         Keys.onSpacePressed: header.today.toggleCompact()
         Keys.onReturnPressed: header.today.toggleCompact()
@@ -64,7 +65,7 @@ Item {
         id: count
         x: header.oneLine ? title.x + title.width + header.gap : header.leading
         y: header.oneLine ? title.y + title.baselineOffset - baselineOffset : title.y + title.height + 2
-        visible: text !== "" && (!header.oneLine || implicitWidth <= header.roomForCount)
+        visible: text !== "" && (!header.oneLine || x + implicitWidth + header.gap <= turn.x)
         text: header.today.count
         textFormat: Text.PlainText
         color: header.today.allDone ? Theme.pencilRed : Theme.secondary
@@ -78,7 +79,7 @@ Item {
         x: header.width - 16 - implicitWidth - (header.oneLine ? turn.implicitWidth + header.gap : 0)
         y: header.oneLine ? title.y + title.baselineOffset - baselineOffset
                           : title.y + title.height + 2 + count.baselineOffset - baselineOffset
-        visible: text !== "" && (!header.folded || x >= title.x + title.width + header.gap)
+        visible: text !== "" && (!header.folded || x >= header.gap + (count.visible ? count.x + count.width : title.x + title.width))
         text: header.today.tomorrowLabel
         textFormat: Text.PlainText
         color: Theme.tertiary

@@ -12,6 +12,8 @@ Item {
     required property string text
     /// Whether no other tooltip of what is beneath may show while this may.
     property bool alone: false
+    /// Whether the pointer is over the target; where this is alone, only this can tell.
+    readonly property alias hovered: hover.hovered
 
     parent: target
     anchors.fill: parent
@@ -23,6 +25,7 @@ Item {
     }
 
     Timer {
+        id: delay
         interval: 700
         running: hover.hovered
         onTriggered: box.active = true
@@ -31,17 +34,28 @@ Item {
         target: hover
         function onHoveredChanged() { if (!hover.hovered) box.active = false }
     }
+    // Whoever acts has read it.
+    Connections {
+        target: Theme
+        enabled: hover.hovered
+        function onActed() {
+            delay.stop()
+            box.active = false
+        }
+    }
 
     Loader {
         id: box
         active: false
         sourceComponent: Window {
             id: tip
-            readonly property point place: hint.mapToGlobal(0, hint.height + 4)
+            readonly property point above: hint.mapToGlobal(0, -4)
+            readonly property point below: hint.mapToGlobal(0, hint.height + 4)
+            readonly property bool fitsBelow: below.y + height <= hint.Screen.virtualY + hint.Screen.height
             flags: Qt.ToolTip | Qt.FramelessWindowHint | Qt.WindowDoesNotAcceptFocus
-            x: place.x
-            y: place.y
-            width: words.implicitWidth + 16
+            x: Math.max(hint.Screen.virtualX, Math.min(below.x, hint.Screen.virtualX + hint.Screen.width - width))
+            y: fitsBelow ? below.y : above.y - height
+            width: words.width + 16
             height: words.implicitHeight + 10
             visible: true
             color: Theme.paper

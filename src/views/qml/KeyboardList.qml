@@ -9,9 +9,20 @@ ListView {
 
     clip: true
     boundsBehavior: Flickable.StopAtBounds
+    interactive: contentHeight > height // else the window is dragged by it
     keyNavigationEnabled: false
     activeFocusOnTab: true
     currentIndex: -1 // a current row would take the keyboard for itself
+
+    Keys.onPressed: (event) => {
+        const page = Math.max(20, height - 40)
+        const places = new Map([[Qt.Key_PageUp, contentY - page], [Qt.Key_PageDown, contentY + page]])
+        event.accepted = true
+        if (places.has(event.key)) contentY = Math.max(originY, Math.min(places.get(event.key), originY + contentHeight - height))
+        else if (event.key === Qt.Key_Home) positionViewAtBeginning()
+        else if (event.key === Qt.Key_End) positionViewAtEnd()
+        else event.accepted = false
+    }
 
     /// The keyboard goes to the list itself, also from a control within a row.
     function takeKeyboard() {

@@ -11,7 +11,7 @@ Window {
     width: 300
     height: 400
     minimumWidth: 230
-    minimumHeight: today.compact ? 34 : 200
+    minimumHeight: 200
     title: "Brimle"
     color: Theme.paper
     flags: Qt.Window | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
@@ -28,7 +28,7 @@ Window {
     }
 
     WindowButtons {
-        x: 12
+        x: window.today.compact ? 8 : 12 // folded, the title stands close beside them
         y: 11
         target: window
         today: window.today

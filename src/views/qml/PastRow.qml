@@ -17,7 +17,9 @@ Item {
     Accessible.role: Accessible.ListItem
     Accessible.name: [text, completed ? Texts.of["ticked"] : "", selected ? Texts.of["selected"] : ""]
         .filter(word => word !== "").join(", ")
+    Accessible.selectable: true
     Accessible.selected: selected
+    Accessible.onPressAction: archive.select(key, 0)
 
     Rectangle {
         anchors { fill: parent; leftMargin: -6; rightMargin: -6 }
@@ -65,6 +67,8 @@ Item {
                 width: parent.width
                 visible: modelData !== ""
                 text: modelData
+                Accessible.role: Accessible.StaticText
+                Accessible.name: Texts.of["Note"] + ": " + modelData
                 textFormat: Text.PlainText
                 wrapMode: Text.Wrap
                 color: Theme.tertiary

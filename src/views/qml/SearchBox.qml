@@ -42,6 +42,7 @@ Rectangle {
         Accessible.name: Texts.of["Search archive"]
 
         Text {
+            anchors.verticalCenter: parent.verticalCenter
             width: parent.width
             fontSizeMode: Text.HorizontalFit
             minimumPixelSize: 8

@@ -17,7 +17,7 @@ Window {
     minimumHeight: height
     maximumHeight: height
     color: Theme.paper
-    flags: Qt.Dialog | Qt.WindowTitleHint | Qt.WindowCloseButtonHint | Qt.WindowStaysOnTopHint
+    flags: Qt.Tool | Qt.WindowTitleHint | Qt.WindowCloseButtonHint | Qt.WindowStaysOnTopHint
 
     Column {
         id: sections
@@ -54,13 +54,16 @@ Window {
                         id: row
                         required property var modelData
                         width: section.width
-                        height: Math.max(keys.height, description.height)
+                        // The baseline that both stand on, whatever typefaces they take their characters from.
+                        readonly property real commonBaseline: Math.max(keys.baselineOffset, description.baselineOffset)
+                        height: Math.max(keys.y + keys.height, description.y + description.height)
                         Accessible.role: Accessible.StaticText
                         Accessible.name: keys.text + ": " + description.text
                         Accessible.description: row.modelData.hint
 
                         Text {
                             id: keys
+                            y: row.commonBaseline - baselineOffset
                             width: 92
                             text: row.modelData.keys
                             textFormat: Text.PlainText
@@ -71,7 +74,7 @@ Window {
                         Text {
                             id: description
                             x: keys.width + 12
-                            y: keys.baselineOffset - baselineOffset
+                            y: row.commonBaseline - baselineOffset
                             width: parent.width - x
                             text: row.modelData.description
                             textFormat: Text.PlainText

@@ -23,6 +23,12 @@ Item {
     /// Where the first baseline of the text stands below the top of the dot.
     readonly property real baselineInDot: 16.5
 
+    /// What stands beside the text, with the room for a pin, which may appear under the pointer without moving a word.
+    readonly property real beside: (badges.width > 0 ? badges.width + badges.spacing : 0)
+        + (pin.visible ? 0 : pin.width + badges.spacing)
+    /// Whether the text takes all its room: an editor, and what is written from the right.
+    readonly property bool filled: editing || label.effectiveHorizontalAlignment === Text.AlignRight
+
     height: Math.max(dot.height, text.y + text.height)
 
     CheckDot {
@@ -35,7 +41,7 @@ Item {
         id: text
         x: dot.width + 9
         y: Math.max(0, line.baselineInDot - label.baselineOffset)
-        width: badges.x - x - (badges.width > 0 ? 9 : 0)
+        width: line.width - x - line.beside
         height: line.editing ? editor.height : label.height
 
         Text {
@@ -69,7 +75,7 @@ Item {
 
     Row {
         id: badges
-        anchors.right: parent.right
+        x: text.x + (line.filled ? text.width : Math.min(text.width, label.contentWidth)) + spacing
         y: text.y + label.baselineOffset - Theme.baseSize * 0.36 - height / 2
         spacing: 9
 
@@ -83,6 +89,7 @@ Item {
             onTriggered: line.today.openLink(line.link)
         }
         GlyphButton {
+            id: pin
             readonly property bool live: line.hovered && !line.editing
             visible: line.pinned || live
             enabled: live

@@ -46,13 +46,17 @@ KeyboardList {
 
     add: Transition {
         enabled: !Theme.reduceMotion
-        NumberAnimation { property: "opacity"; from: 0; to: 1; duration: 180 }
+        SpringMove { property: "opacity"; from: 0; to: 1 }
+    }
+    remove: Transition {
+        enabled: !Theme.reduceMotion
+        SpringMove { property: "opacity"; to: 0 }
     }
     displaced: Transition {
         enabled: !Theme.reduceMotion
         SpringMove {}
         // A row that is displaced while it still appears must not stay half seen.
-        NumberAnimation { property: "opacity"; to: 1; duration: 180 }
+        SpringMove { property: "opacity"; to: 1 }
     }
     move: Transition {
         enabled: !Theme.reduceMotion

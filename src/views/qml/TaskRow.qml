@@ -26,7 +26,9 @@ Item {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: [taskText].concat(states()).join(", ")
+    Accessible.selectable: true
     Accessible.selected: selected
+    Accessible.onPressAction: today.select(taskId, 0)
 
     function states(): list<string> {
         return [done ? Texts.of["ticked"] : "", pinned ? Texts.of["pinned"] : "",
@@ -54,7 +56,7 @@ Item {
         Rectangle {
             required property color modelData
 
-            x: content.x - 6
+            x: content.x - 6 + content.shift
             width: content.width + 12
             height: row.height
             radius: 4
@@ -68,8 +70,8 @@ Item {
 
         // The slide of the sweep, drawn only: the row keeps its place until it is gone.
         property real slide: row.sweeping && !Theme.reduceMotion ? 1 : 0
+        readonly property real shift: 600 * slide
         Behavior on slide {
-            enabled: row.sweeping
             NumberAnimation { duration: 280; easing.type: Easing.BezierSpline; easing.bezierCurve: [0.42, 0, 1, 1, 1, 1] }
         }
 
@@ -78,7 +80,7 @@ Item {
         width: row.width - 2 * Theme.listInset
         spacing: 2
         opacity: 1 - slide
-        transform: Translate { x: 600 * content.slide }
+        transform: Translate { x: content.shift }
 
         TaskLine {
             width: parent.width

@@ -6,10 +6,12 @@ Text {
     id: button
 
     required property string hint
+    /// Space and Return are its own while it has the keyboard.
+    readonly property bool takesKeys: true
     signal triggered
 
     textFormat: Text.PlainText
-    color: area.containsMouse ? Theme.primary : Theme.secondary
+    color: tip.hovered ? Theme.primary : Theme.secondary
     font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
 
     activeFocusOnTab: true
@@ -22,14 +24,13 @@ Text {
     Accessible.onPressAction: triggered()
 
     MouseArea {
-        id: area
         anchors.fill: parent
         anchors.margins: -4
-        hoverEnabled: true
         onClicked: button.triggered()
     }
 
     Hint {
+        id: tip
         target: button
         text: button.hint
         alone: true

@@ -37,7 +37,7 @@ Item {
     Component {
         id: heading
         Item {
-            implicitHeight: (row.index > 0 && row.kind === "heading" ? 16 : 0) + label.height + 3
+            implicitHeight: (row.index > 0 ? 16 : 0) + label.height + 3
             Text {
                 id: label
                 anchors { bottom: parent.bottom; bottomMargin: 3 }

@@ -12,6 +12,10 @@ Item {
     required property Today today
     required property ArchiveScreen archive
 
+    // Wherever the entry field comes back from, it takes the keyboard.
+    readonly property bool showsEntry: !today.compact && !archive.showing
+    onShowsEntryChanged: if (showsEntry) entry.takeKeyboard()
+
     Header {
         id: header
         anchors { left: parent.left; right: parent.right; top: parent.top }
@@ -31,6 +35,7 @@ Item {
         id: body
         anchors { left: parent.left; right: parent.right; top: rule.bottom; bottom: parent.bottom; topMargin: 4 }
         visible: !view.today.compact
+        enabled: visible
 
         TaskList {
             id: tasks

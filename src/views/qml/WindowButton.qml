@@ -10,6 +10,8 @@ Rectangle {
     required property bool glyphShown
     /// Without the round ground.
     property bool flat: false
+    /// Space and Return are its own while it has the keyboard.
+    readonly property bool takesKeys: true
     signal triggered
 
     width: 12
@@ -24,6 +26,11 @@ Rectangle {
     activeFocusOnTab: true
     Keys.onSpacePressed: triggered()
     Keys.onReturnPressed: triggered()
+    Hint {
+        target: button
+        text: button.label
+        alone: true
+    }
     FocusRing {
         target: button
         radius: 9

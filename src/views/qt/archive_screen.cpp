@@ -73,6 +73,12 @@ int ArchiveScreen::leadRow() const {
   return lead ? rows_.rowOf(*lead) : -1;
 }
 
+/// Only one thing at a time is what keys act on.
+void ArchiveScreen::setFocusedKey(const QString& key) {
+  focusedKey_ = key;
+  if (!key.isEmpty() && !sel_.archiveSelection().empty()) sel_.setArchiveSelection({});
+}
+
 bool ArchiveScreen::askForMenu() {
   const auto focused = Uuid::parse(fromQt(focusedKey_));
   const int row = focused ? rows_.rowOf(*focused) : leadRow();

@@ -53,7 +53,7 @@ class ArchiveScreen : public QObject {
 
   // For the keyboard.
   /// The scheduled task that has the keyboard, or nothing.
-  Q_INVOKABLE void setFocusedKey(const QString& key) { focusedKey_ = key; }
+  Q_INVOKABLE void setFocusedKey(const QString& key);
   /// The row of the next scheduled task below a row, or above with -1; -1 where there is none.
   Q_INVOKABLE int nextScheduled(int row, int step) const { return rows_.nextScheduled(row, step); }
   /// Asks the timeline for the context menu of the row that has the keyboard, else of the one the selection

@@ -19,6 +19,8 @@ namespace {
 
 /// How long the window takes to fold, to unfold or to take a preset size, in milliseconds.
 constexpr int kResizing = 200;
+/// Of the window while it is not folded, in points.
+constexpr int kLeastHeight = 200;
 
 Rect rectOf(const QRect& rect) {
   return {double(rect.x()), double(rect.y()), double(rect.width()), double(rect.height())};
@@ -28,7 +30,6 @@ Rect rectOf(const QRect& rect) {
 
 MainWindow::MainWindow(Today::Parts parts, Pasteboard& pasteboard)
     : store_(parts.store),
-      pasteboard_(pasteboard),
       keys_(parts.store, parts.sel, parts.ui, pasteboard, parts.todayFocusAdd),
       clickAway_(parts.sel, parts.ui, parts.time),
       theme_(parts.ui),
@@ -55,6 +56,11 @@ MainWindow::~MainWindow() {
   window_->removeEventFilter(this);
 }
 
+void MainWindow::setReports(Reports reports) {
+  reports_ = std::move(reports);
+  shortcuts_.onKey(reports_.key);
+}
+
 Rect MainWindow::frame() const {
   if (resizing_.state() == QVariantAnimation::Running) return rectOf(resizing_.endValue().toRect());
   return rectOf(window_->isVisible() || shownAt_.isNull() ? window_->geometry() : shownAt_);
@@ -64,6 +70,7 @@ void MainWindow::setFrame(const Rect& frame) {
   const QRect target = QRectF(frame.x, frame.y, frame.width, frame.height).toRect();
   resizing_.stop();
   shownAt_ = target;
+  window_->setMinimumHeight(qMin(target.height(), kLeastHeight));
   if (theme_.reduceMotion() || !window_->isVisible()) return window_->setGeometry(target);
   resizing_.setStartValue(window_->geometry());
   resizing_.setEndValue(target);
@@ -114,11 +121,20 @@ bool MainWindow::edit(EditCommand command) {
       {EditCommand::paste, "paste", nullptr}, {EditCommand::selectAll, "selectAll", nullptr},
   };
   QQuickItem* field = window_->activeFocusItem();
-  if (!field || !keyboardPlace().inTextField) return false;
+  if (command == EditCommand::paste && keys_.filter({KeyCode::other, "v", Modifier::command}, keyboardPlace())) {
+    return true;
+  }
+  if (!field || !keyboardPlace().inTextField) return actOnRows(command);
   const Row& row = *std::ranges::find(kRows, command, &Row::command);
   if (row.condition && !field->property(row.condition).toBool()) return false;
-  if (command == EditCommand::paste && pasteTooLong(pasteboard_.string().value_or(""))) return true;
   return QMetaObject::invokeMethod(field, row.method);
+}
+
+/// What the menu's command means to the rows is what its key means to them.
+bool MainWindow::actOnRows(EditCommand command) {
+  const bool copies = command == EditCommand::copy;
+  if (!copies && command != EditCommand::selectAll) return false;
+  return keys_.filter({copies ? KeyCode::c : KeyCode::a, copies ? "c" : "a", Modifier::command}, keyboardPlace());
 }
 
 /// More than a field can show becomes tasks.
@@ -136,7 +152,12 @@ bool MainWindow::eventFilter(QObject*, QEvent* event) {
 bool MainWindow::filterEvent(QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress: return handleKey(*static_cast<QKeyEvent*>(event));
-    case QEvent::MouseButtonPress: theme_.setFocusShown(false); return false;
+    case QEvent::MouseButtonPress:
+      theme_.setFocusShown(false);
+      emit theme_.acted();
+      leaveEditor(*static_cast<QMouseEvent*>(event));
+      return false;
+    case QEvent::FocusOut: emit theme_.acted(); return false;
     case QEvent::MouseButtonRelease: {
       const auto& mouse = *static_cast<QMouseEvent*>(event);
       if (mouse.button() == Qt::LeftButton) clickAway_.mouseUp(modifiersOf(mouse.modifiers()));
@@ -156,13 +177,24 @@ bool MainWindow::filterEvent(QEvent* event) {
   }
 }
 
+/// A click elsewhere closes an editor in place.
+void MainWindow::leaveEditor(const QMouseEvent& press) {
+  const QQuickItem* field = window_->activeFocusItem();
+  if (!field || !field->inherits("QQuickTextInput")) return;
+  if (!field->contains(field->mapFromScene(press.position()))) {
+    archive_.showing() ? emit archive_.releaseKeyboard() : emit today_.releaseKeyboard();
+  }
+}
+
 bool MainWindow::handleKey(const QKeyEvent& event) {
+  emit theme_.acted();
   const KeyPress key = keyPressOf(event);
   return filterKey(key) || (reports_.key && reports_.key(key)) || handleFocusKey(event);
 }
 
 /// A key that the rows use may move the selection out of sight: the list follows it.
 bool MainWindow::filterKey(const KeyPress& key) {
+  if (focusedControlTakes(key)) return false;
   if (!keys_.filter(key, keyboardPlace())) return false;
   today_.showLead();
   archive_.showLead();
@@ -184,6 +216,13 @@ bool MainWindow::handleFocusKey(const QKeyEvent& event) {
       return false;
     default: return false;
   }
+}
+
+/// A control that has the keyboard keeps the keys that work it.
+bool MainWindow::focusedControlTakes(const KeyPress& key) const {
+  const QQuickItem* focused = window_->activeFocusItem();
+  return (key.code == KeyCode::space || key.code == KeyCode::enter) && focused &&
+         focused->property("takesKeys").toBool();
 }
 
 bool MainWindow::askForMenu() {
@@ -217,7 +256,8 @@ KeyboardPlace MainWindow::keyboardPlace() const {
   const QQuickItem* focused = window_->activeFocusItem();
   const bool inText =
       focused && (focused->inherits("QQuickTextInput") || focused->inherits("QQuickTextEdit"));
-  return {window_->isActive(), inText};
+  // The rows of a folded window are out of sight, and out of reach.
+  return {window_->isActive() && !today_.compact(), inText};
 }
 
 }  // namespace brimle

@@ -43,7 +43,7 @@ class MainWindow : public QObject, public AppWindow {
   Theme& theme() { return theme_; }
   ShortcutsCard& shortcuts() { return shortcuts_; }
   MenuHost& menus() { return menuButton_; }
-  void setReports(Reports reports) { reports_ = std::move(reports); }
+  void setReports(Reports reports);
 
   Rect frame() const override;
   void setFrame(const Rect& frame) override;
@@ -65,11 +65,13 @@ class MainWindow : public QObject, public AppWindow {
   void openMenu();
   bool openMenuByKey();
   void moveFocus(bool forward);
+  bool focusedControlTakes(const KeyPress& key) const;
+  void leaveEditor(const QMouseEvent& press);
+  bool actOnRows(EditCommand command);
   bool pasteTooLong(const std::string& text);
   KeyboardPlace keyboardPlace() const;
 
   Store& store_;
-  Pasteboard& pasteboard_;
   KeyFilter keys_;
   ClickAway clickAway_;
   AltTap altTap_;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "views/qt/convert.h"
+#include "views/qt/key_events.h"
 #include "views/shortcuts_view.h"
 
 namespace brimle {
@@ -46,11 +47,16 @@ void ShortcutsCard::show(const std::string& title) {
   panel_->requestActivate();
 }
 
+bool ShortcutsCard::eventFilter(QObject*, QEvent* event) {
+  return event->type() == QEvent::KeyPress && key_ && key_(keyPressOf(*static_cast<QKeyEvent*>(event)));
+}
+
 QQuickWindow* ShortcutsCard::makePanel() {
   QQmlComponent component(&engine_, QUrl(QStringLiteral("qrc:/qt/qml/Brimle/ShortcutsPanel.qml")));
   auto* panel = qobject_cast<QQuickWindow*>(
       component.createWithInitialProperties({{QStringLiteral("card"), QVariant::fromValue(this)}}));
   if (!panel) qFatal("the shortcuts panel could not be made");
+  panel->installEventFilter(this);
   return panel;
 }
 

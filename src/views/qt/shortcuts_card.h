@@ -6,8 +6,10 @@
 #include <QQmlEngine>
 #include <QQuickWindow>
 #include <QVariantList>
+#include <functional>
 #include <memory>
 
+#include "control/keys.h"
 #include "i18n/region.h"
 #include "platform/shortcuts_panel.h"
 #include "prefs/ui_state.h"
@@ -29,11 +31,17 @@ class ShortcutsCard : public QObject, public ShortcutsPanel {
 
   void show(const std::string& title) override;
 
+  /// Who gets the keys that are pressed in the panel; whether a key was used.
+  void onKey(std::function<bool(const KeyPress&)> action) { key_ = std::move(action); }
+
   /// Which key stands for the hot key on this desktop, as the user reads it; empty where none does.
   void setHotKey(const std::string& key);
 
  signals:
   void changed();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   QQuickWindow* makePanel();
@@ -41,6 +49,7 @@ class ShortcutsCard : public QObject, public ShortcutsPanel {
   QQmlEngine& engine_;
   const Region region_;
   QString hotKey_;
+  std::function<bool(const KeyPress&)> key_;
   Subscription settings_;
   std::unique_ptr<QQuickWindow> panel_;
 };

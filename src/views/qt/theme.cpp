@@ -54,7 +54,7 @@ QString roundedFamily() {
 
 }  // namespace
 
-Theme::Theme(UIState& ui) : ui_(ui), settings_(ui.observe([this] { emit changed(); })) {
+Theme::Theme(UIState& ui) : ui_(ui), seen_(settings()), following_(ui.observe([this] { settingsTold(); })) {
   instance = this;
 }
 
@@ -72,6 +72,16 @@ void Theme::assign(Value& member, Value value) {
   if (std::exchange(member, value) != value) emit changed();
 }
 
+Theme::Settings Theme::settings() const {
+  return {ui_.fontDesign(), ui_.textSize(), ui_.paperTone(), ui_.margin()};
+}
+
+/// The state of the window is told in the same way, at every letter of a search; the views follow that
+/// themselves.
+void Theme::settingsTold() {
+  assign(seen_, settings());
+}
+
 void Theme::setAppearance(Appearance appearance) {
   assign(appearance_, appearance);
 }
@@ -82,7 +92,7 @@ void Theme::setReduceMotion(bool reduce) {
   assign(reduceMotion_, reduce);
 }
 void Theme::setFocusShown(bool shown) {
-  assign(focusShown_, shown);
+  if (std::exchange(focusShown_, shown) != shown) emit focusShownChanged();
 }
 
 void Theme::setTextScale(double scale) {

@@ -10,6 +10,7 @@
 #include <QPalette>
 #include <QQmlEngine>
 #include <QVariantList>
+#include <string>
 
 #include "base/signal.h"
 #include "prefs/palette.h"
@@ -35,7 +36,7 @@ class Theme : public QObject {
   Q_PROPERTY(double textScale READ textScale NOTIFY changed)
   Q_PROPERTY(double listInset READ listInset NOTIFY changed)
   Q_PROPERTY(bool reduceMotion READ reduceMotion NOTIFY changed)
-  Q_PROPERTY(bool focusShown READ focusShown NOTIFY changed)
+  Q_PROPERTY(bool focusShown READ focusShown NOTIFY focusShownChanged)
   Q_PROPERTY(QVariantList listSpring READ listSpring CONSTANT)
   Q_PROPERTY(int listSpringDuration READ listSpringDuration CONSTANT)
   Q_PROPERTY(QVariantList tickSpring READ tickSpring CONSTANT)
@@ -86,13 +87,26 @@ class Theme : public QObject {
 
  signals:
   void changed();
+  /// The user pressed a key or a button, or turned to another window.
+  void acted();
+  /// Apart from the others: it comes with every click, and looks and sizes stay as they are.
+  void focusShownChanged();
 
  private:
+  /// The settings that the theme follows.
+  struct Settings {
+    std::string fontDesign, textSize, paperTone, margin;
+    bool operator==(const Settings&) const = default;
+  };
+
+  Settings settings() const;
+  void settingsTold();
   template <class Value>
   void assign(Value& member, Value value);
 
   UIState& ui_;
-  Subscription settings_;
+  Settings seen_;
+  Subscription following_;
   Appearance appearance_ = Appearance::light;
   bool highContrast_ = false;
   bool reduceMotion_ = false;

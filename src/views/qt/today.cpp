@@ -1,7 +1,5 @@
 #include "views/qt/today.h"
 
-#include <QDesktopServices>
-#include <QUrl>
 #include <algorithm>
 #include <unordered_set>
 
@@ -86,7 +84,7 @@ void Today::togglePin(const QString& taskId) {
 }
 
 void Today::openLink(const QString& address) {
-  QDesktopServices::openUrl(QUrl(address));
+  parts_.links.open(fromQt(address));
 }
 
 void Today::openMenu(const QString& taskId, const QPointF& place) {

@@ -6,12 +6,15 @@
 #include <QPointF>
 #include <QQuickWindow>
 
+#include "base/limits.h"
 #include "base/signal.h"
 #include "control/row_commands.h"
+#include "platform/link_opener.h"
 #include "prefs/ui_state.h"
 #include "views/content_reactions.h"
 #include "views/content_view.h"
 #include "views/header_view.h"
+#include "views/qt/convert.h"
 #include "views/qt/task_list_model.h"
 #include "views/row_drag.h"
 #include "views/row_view.h"
@@ -41,6 +44,7 @@ class Today : public QObject {
     SelectionModel& sel;
     Time& time;
     Signal<>& todayFocusAdd;
+    LinkOpener& links;
   };
   explicit Today(Parts parts);
 
@@ -85,6 +89,8 @@ class Today : public QObject {
   Q_INVOKABLE void beginDrag(const QString& taskId);
   Q_INVOKABLE void dragEntered(const QString& taskId);
   Q_INVOKABLE void endDrag();
+  /// Whether a text that is dropped on the entry field goes into it.
+  Q_INVOKABLE bool fieldTakes(const QString& text) const { return !drag_.draggingID() && isShownWhole(fromQt(text)); }
   Q_INVOKABLE void dropText(const QString& text);
 
   // For the keyboard.

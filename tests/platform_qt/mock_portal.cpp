@@ -1,4 +1,4 @@
-#include "hot_key/mock_portal.h"
+#include "platform_qt/mock_portal.h"
 
 #include <QCoreApplication>
 #include <QDBusArgument>

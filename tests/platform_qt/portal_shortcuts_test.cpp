@@ -3,7 +3,7 @@
 #include <QDBusConnectionInterface>
 #include <QTest>
 
-#include "hot_key/mock_portal.h"
+#include "platform_qt/mock_portal.h"
 #include "platform/desktop/qt_hot_key.h"
 #include "platform/simulated/simulated_preferences_store.h"
 

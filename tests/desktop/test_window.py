@@ -1,0 +1,109 @@
+"""The window itself, its menu, and doing without the mouse."""
+import unittest
+
+import hands
+from case import ADD, PROGRAM, DesktopCase, dayKey, nextKey
+from desktop import DESKTOP
+
+FOLDED = 34  # the height of the header alone, in pixels
+
+
+class Window(DesktopCase):
+    def expectHeight(self, height):
+        self.until(lambda: self.window.box[3] == height,
+                   lambda: f"the window was {height} high; it is {self.window.box[3]}")
+
+    def testADoubleClickOnTheHeaderFoldsItAndUnfoldsIt(self):
+        self.start("milk")
+        height = self.window.box[3]
+        for across, expected, lists in [(0.2, FOLDED, 0), (0.6, height, 1)]:
+            with self.subTest(expected):
+                hands.doubleClick(self.window.find("heading").point(across))
+                self.expectHeight(expected)
+                self.until(lambda: len(self.window.all("list")) == lists, f"{lists} lists were shown")
+
+    def testClosingHidesItAndAnotherStartBringsItForward(self):
+        self.start("milk")
+        hands.click(self.window.find("button", "Close").point())
+        self.until(lambda: not self.app.all("window"), "the window was hidden")
+        again = DESKTOP.start(PROGRAM)
+        self.addCleanup(DESKTOP.end, again)
+        self.until(lambda: again.poll() is not None, "the second start was over")
+        self.assertEqual(again.returncode, 0)
+        self.window = self.app.find("window", "Brimle")
+        self.waitForFocus(ADD)
+        hands.enter("bread")
+        self.expectDay(today=["milk", "bread"])
+
+
+class MainMenu(DesktopCase):
+    def testCopiesTheDayAndPastesTasks(self):
+        self.start("milk / oat", "bread+")
+        self.chooseFromMainMenu("File", "Copy Day as Text")
+        tasks = ["○ milk", "   oat", "✓ bread"]
+        self.until(lambda: self.copied().split("\n")[1:] == tasks, lambda: f"the day was copied: {self.copied()!r}")
+        self.putOnClipboard("tea\neggs\n")
+        self.chooseFromMainMenu("File", "Paste Clipboard as Tasks")
+        self.expectDay(today=["milk / oat", "tea", "eggs"], archive=[f"{dayKey()} bread+"])
+
+    def testShowsTheShortcutsCardAsOftenAsItIsWanted(self):
+        self.start()
+        for _ in range(2):
+            self.chooseFromMainMenu("Help", "Shortcuts")
+            card = self.app.find("window", "Shortcuts")
+            card.find("label", "!: Pin to top")
+            self.until(lambda: card.active, "the card had the keyboard")
+            hands.press("Escape")
+            self.until(lambda: not self.app.all("window", "Shortcuts"), "the card was closed")
+            self.waitForFocus(ADD)
+
+    def testTurnsToAnotherLanguageAtOnce(self):
+        self.start("milk")
+        self.chooseFromMainMenu("View", "Language", "Deutsch")
+        hands.enter("brot >22.9.")
+        self.expectDay(scheduled=[f"{nextKey(9, 22)} brot!"])
+        hands.rightClick(self.row("milk").point())
+        hands.click(self.menus.item("Hervorheben").point())
+        self.expectDay(today=["milk^"])
+
+
+class WithoutTheMouse(DesktopCase):
+    def testEveryControlIsReachedForwardsAndBackwards(self):
+        self.start("milk")
+        title = self.window.find("heading").name
+        around = [("button", "Close"), ("button", "Minimise"), ("button", "Menu"), ("heading", title),
+                  ("button", "Archive"), ("list", "Task list"), ("field", ADD)]
+        for key, controls in [("F6", around), ("shift+F6", [*reversed(around[:-1]), around[-1]])]:
+            for role, name in controls:
+                with self.subTest(f"{key} to {name}"):
+                    hands.press(key)
+                    self.waitForFocus(name, role=role)
+
+    def testARowIsChosenAndItsMenuUsed(self):
+        self.start("milk", "bread", "tea")
+        hands.press("shift+F6")
+        self.waitForFocus("Task list", role="list")
+        for key, today in [("Menu", ["bread", "tea"]), ("shift+F10", ["tea"])]:
+            with self.subTest(key):
+                hands.press("Down")
+                self.until(lambda: len(self.selected()) == 1, "a row was selected")
+                hands.press(key)
+                self.menus.waitUntilOpen()
+                hands.press("Up", "Return")
+                self.menus.waitUntilClosed()
+                self.expectDay(today=today)
+
+    def testTheArchiveIsOpenedAndLeft(self):
+        self.start("milk", archive=[f"{dayKey(-1)} eggs"])
+        hands.press("shift+F6", "shift+F6")
+        self.waitForFocus("Archive", role="button")
+        hands.press("space")
+        self.window.find("list", "Archive")
+        hands.press("Up", "Delete")
+        self.expectDay(archive=[])
+        hands.press("Escape")
+        self.waitForFocus(ADD)
+
+
+if __name__ == "__main__":
+    unittest.main()
