@@ -20,6 +20,7 @@ class Weston(DesktopCase):
         self.weston = DESKTOP.start("weston", "--backend=x11-backend.so", "--use-pixman", f"--socket={SOCKET}", "--idle-time=0")
         self.addCleanup(lambda: self.weston.poll() is None and DESKTOP.end(self.weston))
         waitUntil((Path(os.environ["XDG_RUNTIME_DIR"]) / SOCKET).is_socket, "weston was ready")
+        waitUntil(lambda: hands.keyboardWindow().startswith("Weston"), "weston had the keyboard of X")
         environment = mock.patch.dict(os.environ, QT_QPA_PLATFORM="wayland", WAYLAND_DISPLAY=SOCKET)
         environment.start()
         self.addCleanup(environment.stop)
