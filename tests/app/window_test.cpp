@@ -95,6 +95,9 @@ TEST_F(WindowTest, ComesBackWhereItWas) {
   window.at = kUsual;
   launch();
   EXPECT_EQ(window.at, (Rect{20, 77, 310, 420}));
+  preferences.setString(kFrameKey, "20 77 310 1");
+  launch();
+  EXPECT_EQ(window.at, (Rect{20, 77, 310, 200})) << "high enough to be used";
 }
 
 TEST_F(WindowTest, StartsAtItsUsualPlaceWhereTheKeptFrameIsNone) {

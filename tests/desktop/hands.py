@@ -70,11 +70,19 @@ def glide(start, end):
     _xdotool(*words)
 
 
+def _ofKeyboardWindow(what):
+    answer = subprocess.run(["xdotool", "getwindowfocus", what], capture_output=True, text=True, check=False, timeout=30)
+    return answer.stdout.strip() if answer.returncode == 0 else ""
+
+
 def keyboardOwner():
     """The process whose window has the keyboard; nothing where no window has it."""
-    answer = subprocess.run(["xdotool", "getwindowfocus", "getwindowpid"], capture_output=True, text=True, check=False,
-                            timeout=30)
-    return int(answer.stdout) if answer.returncode == 0 and answer.stdout.strip() else None
+    return int(_ofKeyboardWindow("getwindowpid") or 0) or None
+
+
+def keyboardWindow():
+    """The title of the window that has the keyboard; empty where no window has it."""
+    return _ofKeyboardWindow("getwindowname")
 
 
 def windowOf(process):

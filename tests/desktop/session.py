@@ -11,6 +11,7 @@ from pathlib import Path
 
 FOLDERS = {"XDG_DATA_HOME": "data", "XDG_CONFIG_HOME": "config", "XDG_STATE_HOME": "state", "XDG_CACHE_HOME": "cache",
            "XDG_RUNTIME_DIR": "run"}
+SKIPPED = 77  # the exit status of a test that cannot run on this machine
 KEPT = ("PATH", "BRIMLE_PROGRAM", "ASAN_OPTIONS", "UBSAN_OPTIONS")  # of the environment of the tests
 
 

@@ -3,6 +3,7 @@
 A call that the program waited for would hold it up longer than any test here waits.
 """
 import os
+import signal
 import unittest
 from pathlib import Path
 
@@ -23,7 +24,7 @@ NONSENSE = [  # arguments and their signature
        "org.gnome.desktop.interface": {"text-scaling-factor": dbus.Double("nan", variant_level=3),
                                        "enable-animations": dbus.Struct([1, "x"], variant_level=1)}}], "a{sa{sv}}"),
     ([{"": {"": "x"}}], "a{sa{sv}}"),
-    ([dbus.Boolean(True)], "v"),
+    ([dbus.Array([1], signature="i")], "v"),
 ]
 
 
@@ -109,6 +110,15 @@ class Neighbours(DesktopCase):
         self.expectInUse()
         self.closeWindow()
         self.assertEqual(self.waitUntilEnded(), 0, "nobody could have brought the window back")
+
+    def testTheBusFallsSilent(self):
+        bus, address = DESKTOP.startBus()
+        self.startElsewhere("milk", DBUS_SESSION_BUS_ADDRESS=address)
+        bus.send_signal(signal.SIGSTOP)
+        self.addCleanup(bus.kill)
+        self.expectInUse()
+        hands.press("alt+Return", "ctrl+z", "ctrl+shift+z")
+        self.expectInUse()
 
     def testBusesThatNeverAnswer(self):
         bus = SilentBus()

@@ -11,9 +11,11 @@ constexpr Seconds kSaveDelay(0.5);
 
 }  // namespace
 
+/// A lower frame than that of an unfolded window was not kept by the program, and is raised.
 void AppDelegate::restoreFrame() {
   const auto frame = readFrame(ports_.preferences.string(kFrameKey).value_or(""));
-  if (frame) ports_.window.setFrame(ontoAScreen(*frame, ports_.window.screens()));
+  if (!frame) return;
+  ports_.window.setFrame(ontoAScreen(unfolded(*frame, frame->height), ports_.window.screens()));
 }
 
 void AppDelegate::windowFrameChanged() {

@@ -84,9 +84,10 @@ bool QtSettingsPortal::reduceMotion() const {
   const QVariant portal = value(kAppearance, "reduced-motion");
   if (portal.isValid()) return portal.toUInt() == 1;
   const QVariant gnome = value(kGnome, "enable-animations");
-  if (gnome.isValid()) return !gnome.toBool();
-  const QVariant kde = value(kKde, "AnimationDurationFactor");
-  return kde.isValid() && kde.toDouble() == 0;
+  if (gnome.typeId() == QMetaType::Bool) return !gnome.toBool();
+  bool isNumber = false;
+  const double factor = value(kKde, "AnimationDurationFactor").toDouble(&isNumber);
+  return isNumber && factor == 0;
 }
 
 double QtSettingsPortal::textScale() const {
