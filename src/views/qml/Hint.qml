@@ -22,16 +22,13 @@ Item {
         id: hover
         enabled: hint.enabled && hint.text !== ""
         blocking: hint.alone
+        onHoveredChanged: if (!hovered) box.active = false
     }
 
     Timer {
         interval: 700
         running: hover.hovered
         onTriggered: box.active = true
-    }
-    Connections {
-        target: hover
-        function onHoveredChanged() { if (!hover.hovered) box.active = false }
     }
 
     Loader {

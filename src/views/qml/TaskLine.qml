@@ -73,28 +73,35 @@ Item {
         y: text.y + label.baselineOffset - Theme.baseSize * 0.36 - height / 2
         spacing: 9
 
-        GlyphButton {
-            visible: line.link !== ""
-            symbol: "link"
-            size: 11
-            color: Theme.secondary
-            label: line.link
-            activeFocusOnTab: line.selected
-            onTriggered: line.today.openLink(line.link)
+        // Made where they show: most rows have none.
+        Loader {
+            active: line.link !== ""
+            visible: active
+            sourceComponent: GlyphButton {
+                symbol: "link"
+                size: 11
+                color: Theme.secondary
+                label: line.link
+                activeFocusOnTab: line.selected
+                onTriggered: line.today.openLink(line.link)
+            }
         }
-        GlyphButton {
-            readonly property bool live: line.hovered && !line.editing
-            visible: line.pinned || live
-            enabled: live
-            symbol: "pin"
-            size: 10
-            color: line.pinned ? Theme.pencilRed : Theme.secondary
-            label: line.pinned ? Texts.of["Unpin"] : Texts.of["Pin to top"]
-            onTriggered: line.today.togglePin(line.taskId)
+        Loader {
+            active: line.pinned || line.hovered && !line.editing
+            visible: active
+            sourceComponent: GlyphButton {
+                enabled: line.hovered && !line.editing
+                symbol: "pin"
+                size: 10
+                color: line.pinned ? Theme.pencilRed : Theme.secondary
+                label: line.pinned ? Texts.of["Unpin"] : Texts.of["Pin to top"]
+                onTriggered: line.today.togglePin(line.taskId)
+            }
         }
-        RepeatBadge {
-            visible: line.repeats !== ""
-            weekdaysOnly: line.repeats === "weekdays"
+        Loader {
+            active: line.repeats !== ""
+            visible: active
+            sourceComponent: RepeatBadge { weekdaysOnly: line.repeats === "weekdays" }
         }
     }
 }
