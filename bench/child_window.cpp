@@ -83,11 +83,15 @@ ChildWindow::ChildWindow(const Path& program, const Path& folder) {
   std::array<int, 2> ends{};
   require(::pipe2(ends.data(), O_CLOEXEC) == 0, "making a pipe");
   log_ = ends[0];
-  secondsToFrame_ = secondsOf([&] {
+  const auto waitedBefore = waitedForProcessor("thread-self");
+  const double seconds = secondsOf([&] {
     pid_ = spawn(program, environmentIn(folder), ends[1]);
     ::close(ends[1]);
     require(readUntil(log_, "Frame rendered"), ("waiting for the window of " + program.string()).c_str());
   });
+  const auto waited =
+      waitedForProcessor("thread-self") - waitedBefore + waitedForProcessor(std::to_string(pid_));
+  secondsToFrame_ = seconds - std::chrono::duration<double>(waited).count();
 }
 
 ChildWindow::~ChildWindow() {

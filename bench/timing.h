@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <fstream>
+#include <string>
 #include <vector>
 
 #include "operations.h"
@@ -17,6 +19,15 @@ double secondsOf(Action action) {
   const auto start = std::chrono::steady_clock::now();
   action();
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+/// How long a thread, by its name in /proc, has wanted a processor so far that others had. Measurements of a
+/// few milliseconds leave it out, or they would measure what else the machine does.
+inline std::chrono::nanoseconds waitedForProcessor(const std::string& thread) {
+  std::ifstream schedule("/proc/" + thread + "/schedstat");
+  std::chrono::nanoseconds::rep run = 0, waited = 0;
+  schedule >> run >> waited;
+  return std::chrono::nanoseconds(waited);
 }
 
 /// The least of at least one value that this share of them does not exceed.

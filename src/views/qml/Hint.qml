@@ -22,6 +22,7 @@ Item {
         id: hover
         enabled: hint.enabled && hint.text !== ""
         blocking: hint.alone
+        onHoveredChanged: if (!hovered) box.active = false
     }
 
     Timer {
@@ -30,17 +31,15 @@ Item {
         running: hover.hovered
         onTriggered: box.active = true
     }
-    Connections {
-        target: hover
-        function onHoveredChanged() { if (!hover.hovered) box.active = false }
-    }
-    // Whoever acts has read it.
-    Connections {
-        target: Theme
-        enabled: hover.hovered
-        function onActed() {
-            delay.stop()
-            box.active = false
+    // Whoever acts has read it. Listened for under the pointer only: most tooltips never show.
+    Loader {
+        active: hover.hovered
+        sourceComponent: Connections {
+            target: Theme
+            function onActed() {
+                delay.stop()
+                box.active = false
+            }
         }
     }
 

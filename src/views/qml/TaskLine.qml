@@ -25,7 +25,7 @@ Item {
 
     /// What stands beside the text, with the room for a pin, which may appear under the pointer without moving a word.
     readonly property real beside: (badges.width > 0 ? badges.width + badges.spacing : 0)
-        + (pin.visible ? 0 : pin.width + badges.spacing)
+        + (pin.visible ? 0 : 10 + badges.spacing)
     /// Whether the text takes all its room: an editor, and what is written from the right.
     readonly property bool filled: editing || label.effectiveHorizontalAlignment === Text.AlignRight
 
@@ -79,29 +79,36 @@ Item {
         y: text.y + label.baselineOffset - Theme.baseSize * 0.36 - height / 2
         spacing: 9
 
-        GlyphButton {
-            visible: line.link !== ""
-            symbol: "link"
-            size: 11
-            color: Theme.secondary
-            label: line.link
-            activeFocusOnTab: line.selected
-            onTriggered: line.today.openLink(line.link)
+        // Made where they show: most rows have none.
+        Loader {
+            active: line.link !== ""
+            visible: active
+            sourceComponent: GlyphButton {
+                symbol: "link"
+                size: 11
+                color: Theme.secondary
+                label: line.link
+                activeFocusOnTab: line.selected
+                onTriggered: line.today.openLink(line.link)
+            }
         }
-        GlyphButton {
+        Loader {
             id: pin
-            readonly property bool live: line.hovered && !line.editing
-            visible: line.pinned || live
-            enabled: live
-            symbol: "pin"
-            size: 10
-            color: line.pinned ? Theme.pencilRed : Theme.secondary
-            label: line.pinned ? Texts.of["Unpin"] : Texts.of["Pin to top"]
-            onTriggered: line.today.togglePin(line.taskId)
+            active: line.pinned || line.hovered && !line.editing
+            visible: active
+            sourceComponent: GlyphButton {
+                enabled: line.hovered && !line.editing
+                symbol: "pin"
+                size: 10
+                color: line.pinned ? Theme.pencilRed : Theme.secondary
+                label: line.pinned ? Texts.of["Unpin"] : Texts.of["Pin to top"]
+                onTriggered: line.today.togglePin(line.taskId)
+            }
         }
-        RepeatBadge {
-            visible: line.repeats !== ""
-            weekdaysOnly: line.repeats === "weekdays"
+        Loader {
+            active: line.repeats !== ""
+            visible: active
+            sourceComponent: RepeatBadge { weekdaysOnly: line.repeats === "weekdays" }
         }
     }
 }

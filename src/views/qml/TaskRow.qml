@@ -49,21 +49,16 @@ Item {
         noteAt: row.noteAt
     }
 
-    Repeater {
-        model: [row.highlighted && !row.done ? Theme.highlight : "transparent",
-                row.selected && !row.editing ? Theme.selection : "transparent"]
-
-        Rectangle {
-            required property color modelData
-
-            x: content.x - 6 + content.shift
-            width: content.width + 12
-            height: row.height
-            radius: 4
-            color: modelData
-            opacity: content.opacity
-        }
+    component Ground: Rectangle {
+        x: content.x - 6
+        width: content.width + 12
+        height: row.height
+        radius: 4
+        opacity: content.opacity
     }
+
+    Ground { color: row.highlighted && !row.done ? Theme.highlight : "transparent" }
+    Ground { color: row.selected && !row.editing ? Theme.selection : "transparent" }
 
     Column {
         id: content
