@@ -84,11 +84,17 @@ class Store {
   /// Tells what an operation changed, once, after it has been saved.
   [[nodiscard]] Subscription observe(std::function<void(const Changes&)> observer);
 
-  /// Runs several operations as one: one undo step, one save.
+  /// Runs several operations as one: one undo step, one save. Where one of them throws, none is done.
   template <class Action>
   void perform(Action action) {
     const Operation operation(*this);
-    action();
+    Lists before = lists_;
+    try {
+      action();
+    } catch (...) {
+      lists_ = std::move(before);
+      throw;
+    }
   }
 
   // Adding (store_entries.cpp).

@@ -1,8 +1,9 @@
 // The port to the file system: the few operations the day file, its backups and the data folder need.
 //
-// Paths are absolute. No operation throws or reports why it failed: callers only ask whether it was done. A
-// new file has mode 0600 and a new folder 0700; a file that is replaced keeps its mode, and a symbolic link
-// stays one: what it points to is replaced.
+// Paths are absolute. No operation reports why it failed: callers only ask whether it was done. One that runs
+// out of memory may throw std::bad_alloc, and has then done nothing. A new file has mode 0600 and a new
+// folder 0700; a file that is replaced keeps its mode, and a symbolic link stays one: what it points to is
+// replaced.
 #pragma once
 
 #include <filesystem>

@@ -101,6 +101,8 @@ class FaultyCalls : public FileCalls {
   int mkdir(const char* path, mode_t mode) override {
     return fails("mkdir") ? -1 : FileCalls::mkdir(path, mode);
   }
+  DIR* opendir(const char* path) override { return fails("opendir") ? nullptr : FileCalls::opendir(path); }
+  dirent* readdir(DIR* folder) override { return fails("readdir") ? nullptr : FileCalls::readdir(folder); }
 
   int count = 0;
   std::string_view failed;  ///< the first call that failed

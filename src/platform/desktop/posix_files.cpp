@@ -9,11 +9,11 @@
 #include <climits>
 #include <cstdio>
 #include <exception>
+#include <memory>
+#include <utility>
 
 namespace brimle {
 namespace {
-
-namespace fs = std::filesystem;
 
 constexpr std::size_t kSlack = 64;  // what the widest vector unit reads past the end of a JSON text
 constexpr int kMostLinks = 40;      // the kernel's own limit
@@ -39,6 +39,16 @@ Path temporaryFor(const Path& target) {
   name += target.filename().string();
   name += kAfter;
   return target.parent_path() / name;
+}
+
+/// The pieces that hold bytes, as the system takes them.
+std::vector<iovec> vectorOf(std::span<const std::string_view> pieces) {
+  std::vector<iovec> vector;
+  vector.reserve(pieces.size());
+  for (const std::string_view piece : pieces) {
+    if (!piece.empty()) vector.push_back({const_cast<char*>(piece.data()), piece.size()});
+  }
+  return vector;
 }
 
 }  // namespace
@@ -81,6 +91,12 @@ int FileCalls::rmdir(const char* path) {
 }
 int FileCalls::mkdir(const char* path, mode_t mode) {
   return ::mkdir(path, mode);
+}
+DIR* FileCalls::opendir(const char* path) {
+  return ::opendir(path);
+}
+dirent* FileCalls::readdir(DIR* folder) {
+  return ::readdir(folder);
 }
 
 PosixFiles::PosixFiles() : calls_(systemCalls()) {}
@@ -126,12 +142,17 @@ std::optional<std::string> PosixFiles::readAll(int file) const {
 }
 
 std::optional<std::vector<std::string>> PosixFiles::list(const Path& folder) const {
-  std::error_code error;
+  const std::unique_ptr<DIR, int (*)(DIR*)> open(calls_.opendir(folder.c_str()), &::closedir);
+  if (!open) return std::nullopt;
   std::vector<std::string> names;
-  for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
-    names.push_back(entry->path().filename().string());
+  while (true) {
+    errno = 0;
+    const dirent* entry = calls_.readdir(open.get());
+    if (!entry) break;
+    const std::string_view name = entry->d_name;
+    if (name != "." && name != "..") names.emplace_back(name);
   }
-  if (error) return std::nullopt;
+  if (errno != 0) return std::nullopt;
   return names;
 }
 
@@ -164,10 +185,13 @@ bool PosixFiles::replace(const Path& path, std::span<const std::string_view> pie
   const bool replaces = retried([&] { return calls_.stat(target->c_str(), &old); }) == 0;
   if (replaces ? !S_ISREG(old.st_mode) : errno != ENOENT) return false;
 
+  // From here on nothing needs memory, so that nothing is left half done.
   const Path temporary = temporaryFor(*target);
+  std::vector<iovec> bytes = vectorOf(pieces);
   calls_.unlink(temporary.c_str());  // one that cannot be removed makes the exclusive open fail
   const std::optional<mode_t> mode = replaces ? std::optional(old.st_mode & kModeBits) : std::nullopt;
-  if (write(temporary, pieces, mode) && calls_.rename(temporary.c_str(), target->c_str()) == 0) return true;
+  if (write(temporary, std::move(bytes), mode) && calls_.rename(temporary.c_str(), target->c_str()) == 0)
+    return true;
   calls_.unlink(temporary.c_str());
   return false;
 }
@@ -196,12 +220,11 @@ std::optional<Path> PosixFiles::followLinks(Path path) const {
 }
 
 /// Makes a file that is not there yet, and has it on the disk when it returns true.
-bool PosixFiles::write(const Path& temporary, std::span<const std::string_view> pieces,
-                       std::optional<mode_t> mode) {
+bool PosixFiles::write(const Path& temporary, std::vector<iovec> bytes, std::optional<mode_t> mode) {
   constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
   const int file = retried([&] { return calls_.open(temporary.c_str(), kFlags, 0600); });
   if (file < 0) return false;
-  const bool written = (!mode || setMode(file, *mode)) && writeAll(file, pieces) &&
+  const bool written = (!mode || setMode(file, *mode)) && writeAll(file, std::move(bytes)) &&
                        retried([&] { return calls_.fdatasync(file); }) == 0;
   // An interrupted close has closed: the number may belong to another file by now, and all is synced.
   const bool closed = calls_.close(file) == 0 || errno == EINTR;
@@ -216,12 +239,7 @@ bool PosixFiles::setMode(int file, mode_t mode) {
   return retried([&] { return calls_.fchmod(file, mode); }) == 0;
 }
 
-bool PosixFiles::writeAll(int file, std::span<const std::string_view> pieces) {
-  std::vector<iovec> rest;
-  rest.reserve(pieces.size());
-  for (const std::string_view piece : pieces) {
-    if (!piece.empty()) rest.push_back({const_cast<char*>(piece.data()), piece.size()});
-  }
+bool PosixFiles::writeAll(int file, std::vector<iovec> rest) {
   for (std::size_t next = 0; next < rest.size();) {
     const int count = static_cast<int>(std::min<std::size_t>(rest.size() - next, IOV_MAX));
     const ssize_t result = retried([&] { return calls_.writev(file, &rest[next], count); });

@@ -5,6 +5,7 @@
 // never synced, so right after a power cut the file may still be the old one. Nothing is kept between calls.
 #pragma once
 
+#include <dirent.h>
 #include <sys/stat.h>
 #include <sys/types.h>
 #include <sys/uio.h>
@@ -13,8 +14,8 @@
 
 namespace brimle {
 
-/// The system calls behind all but `list`: arguments, results and errno are theirs. A test derives from this
-/// to make one of them fail.
+/// The system calls behind the port: arguments, results and errno are theirs. A test derives from this to
+/// make one of them fail.
 class FileCalls {
  public:
   virtual ~FileCalls() = default;
@@ -32,6 +33,8 @@ class FileCalls {
   virtual int unlink(const char* path);
   virtual int rmdir(const char* path);
   virtual int mkdir(const char* path, mode_t mode);
+  virtual DIR* opendir(const char* path);
+  virtual dirent* readdir(DIR* folder);
 };
 
 class PosixFiles : public Files {
@@ -58,9 +61,9 @@ class PosixFiles : public Files {
   bool isFolder(const Path& path) const;
   std::optional<Path> followLinks(Path path) const;
   std::optional<std::string> readAll(int file) const;
-  bool write(const Path& temporary, std::span<const std::string_view> pieces, std::optional<mode_t> mode);
+  bool write(const Path& temporary, std::vector<iovec> bytes, std::optional<mode_t> mode);
   bool setMode(int file, mode_t mode);
-  bool writeAll(int file, std::span<const std::string_view> pieces);
+  bool writeAll(int file, std::vector<iovec> rest);
 
   FileCalls& calls_;
 };
