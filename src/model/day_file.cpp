@@ -155,7 +155,7 @@ bool read(dom::element value, ScheduledItem& out) {
   const bool sound = readObject(value, [&](std::string_view key, dom::element field) {
     if (key == "id") return hasId = read(field, out.id);
     if (key == "date") return hasDate = read(field, out.date);
-    if (key == "item") return hasItem = read(field, out.item);
+    if (key == "item") return hasItem = read(field, out.item = TodoItem());  // nothing of one before it
     return true;
   });
   return sound && hasId && hasDate && hasItem;

@@ -71,6 +71,15 @@ TEST(DayFile, ReadsOlderAndForeignKeysAndEveryWayToWriteAText) {
   EXPECT_EQ(archive ? shown(archive->lists) : "", " |  |  | 14:t/n");
 }
 
+TEST(DayFile, TakesTheLastOfWhatStandsThereTwice) {
+  const auto file = readDayFile(filled(
+      R"({"date":"e","date":"d","items":[{"id":ID,"text":"a"}],"items":[{"id":ID,"text":"b","text":"c"}],)"
+      R"("scheduled":[{"id":ID,"date":"20","item":{"id":ID,"text":"x","done":true,"notes":["n"]},)"
+      R"("item":{"id":ID,"text":"y","note":"m"}}]})"));
+  EXPECT_EQ(file ? shown(file->lists) : "", "c' |  | 20:y'/m");
+  EXPECT_EQ(file ? file->date : "", "d");
+}
+
 // Each <type> in turn stands for a value of every type; <type?> may be null or absent too.
 TEST(DayFile, TakesOnlyTheRightTypeOfEveryKey) {
   const std::string documents[] = {
