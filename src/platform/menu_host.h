@@ -1,4 +1,5 @@
-// The port to where the menu bar is shown: behind a button of the window, on desktops without a bar of their own.
+// The port to where the menu bar is shown: behind a button of the window, on desktops without a bar of their
+// own.
 #pragma once
 
 #include "platform/menu.h"

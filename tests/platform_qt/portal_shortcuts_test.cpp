@@ -3,9 +3,9 @@
 #include <QDBusConnectionInterface>
 #include <QTest>
 
-#include "platform_qt/mock_portal.h"
 #include "platform/desktop/qt_hot_key.h"
 #include "platform/simulated/simulated_preferences_store.h"
+#include "platform_qt/mock_portal.h"
 
 namespace brimle {
 namespace {

@@ -22,7 +22,7 @@ Item {
 
         // A search shows what it found, below the boundary.
         readonly property string query: page.archive.query
-        onQueryChanged: Qt.callLater(list.showBoundary) // qmllint disable
+        onQueryChanged: showBoundary()
 
         Accessible.role: Accessible.List
         Accessible.name: Texts.of["Archive"]

@@ -48,10 +48,6 @@ KeyboardList {
         enabled: !Theme.reduceMotion
         SpringMove { property: "opacity"; from: 0; to: 1 }
     }
-    remove: Transition {
-        enabled: !Theme.reduceMotion
-        SpringMove { property: "opacity"; to: 0 }
-    }
     displaced: Transition {
         enabled: !Theme.reduceMotion
         SpringMove {}

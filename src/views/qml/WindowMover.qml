@@ -4,7 +4,7 @@ import QtQuick
 MouseArea {
     id: mover
 
-    required property Window target
+    required property var target
     property point pressed
 
     onPressed: (mouse) => { mover.pressed = Qt.point(mouse.x, mouse.y) }

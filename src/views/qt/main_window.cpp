@@ -121,7 +121,8 @@ bool MainWindow::edit(EditCommand command) {
       {EditCommand::paste, "paste", nullptr}, {EditCommand::selectAll, "selectAll", nullptr},
   };
   QQuickItem* field = window_->activeFocusItem();
-  if (command == EditCommand::paste && keys_.filter({KeyCode::other, "v", Modifier::command}, keyboardPlace())) {
+  if (command == EditCommand::paste &&
+      keys_.filter({KeyCode::other, "v", Modifier::command}, keyboardPlace())) {
     return true;
   }
   if (!field || !keyboardPlace().inTextField) return actOnRows(command);
@@ -134,7 +135,8 @@ bool MainWindow::edit(EditCommand command) {
 bool MainWindow::actOnRows(EditCommand command) {
   const bool copies = command == EditCommand::copy;
   if (!copies && command != EditCommand::selectAll) return false;
-  return keys_.filter({copies ? KeyCode::c : KeyCode::a, copies ? "c" : "a", Modifier::command}, keyboardPlace());
+  return keys_.filter({copies ? KeyCode::c : KeyCode::a, copies ? "c" : "a", Modifier::command},
+                      keyboardPlace());
 }
 
 /// More than a field can show becomes tasks.

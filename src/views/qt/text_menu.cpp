@@ -46,30 +46,36 @@ MenuEntry entryOf(const Row& row, QQuickItem* field) {
 
 }  // namespace
 
-TextMenu::TextMenu() {
-  connect(this, &FieldWatch::fieldChanged, this, [this] {
-    if (field()) field()->setAcceptedMouseButtons(field()->acceptedMouseButtons() | Qt::RightButton);
-  });
+void TextMenu::setField(QQuickItem* field) {
+  if (field_ == field) return;
+  if (field_) field_->removeEventFilter(this);
+  field_ = field;
+  if (field_) {
+    field_->setAcceptedMouseButtons(field_->acceptedMouseButtons() | Qt::RightButton);
+    field_->installEventFilter(this);
+  }
+  emit fieldChanged();
 }
 
-bool TextMenu::sees(QEvent& event) {
-  if (event.type() == QEvent::KeyPress) return openByKey(static_cast<QKeyEvent&>(event));
-  if (event.type() != QEvent::MouseButtonPress) return false;
-  const auto& mouse = static_cast<QMouseEvent&>(event);
+bool TextMenu::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != field_) return false;
+  if (event->type() == QEvent::KeyPress) return openByKey(*static_cast<QKeyEvent*>(event));
+  if (event->type() != QEvent::MouseButtonPress) return false;
+  const auto& mouse = *static_cast<QMouseEvent*>(event);
   return mouse.button() == Qt::RightButton && openAt(mouse.position());
 }
 
 bool TextMenu::openByKey(const QKeyEvent& key) {
   const bool shiftF10 = key.key() == Qt::Key_F10 && key.modifiers() == Qt::ShiftModifier;
   if (key.key() != Qt::Key_Menu && !shiftF10) return false;
-  return openAt(field()->property("cursorRectangle").toRectF().bottomLeft());
+  return openAt(field_->property("cursorRectangle").toRectF().bottomLeft());
 }
 
 bool TextMenu::openAt(const QPointF& place) {
-  field()->forceActiveFocus();
+  field_->forceActiveFocus();
   std::vector<MenuEntry> items;
-  for (const Row& row : kRows) items.push_back(entryOf(row, field()));
-  popUpMenu(items, field()->mapToGlobal(place).toPoint());
+  for (const Row& row : kRows) items.push_back(entryOf(row, field_));
+  popUpMenu(items, field_->mapToGlobal(place).toPoint());
   return true;
 }
 

@@ -90,7 +90,9 @@ class Today : public QObject {
   Q_INVOKABLE void dragEntered(const QString& taskId);
   Q_INVOKABLE void endDrag();
   /// Whether a text that is dropped on the entry field goes into it.
-  Q_INVOKABLE bool fieldTakes(const QString& text) const { return !drag_.draggingID() && isShownWhole(fromQt(text)); }
+  Q_INVOKABLE bool fieldTakes(const QString& text) const {
+    return !drag_.draggingID() && isShownWhole(fromQt(text));
+  }
   Q_INVOKABLE void dropText(const QString& text);
 
   // For the keyboard.
