@@ -23,7 +23,7 @@ class Clipboard(DesktopCase):
         self.waitForFocus(ADD, text="")
         hands.press("ctrl+z")
         self.expectDay(today=["milk"])
-        hands.doubleClick(self.row("milk").point(across=0.4))
+        hands.doubleClick(self.row("milk").point(across=0.2))
         self.waitForFocus("Edit", "milk")
         hands.press("ctrl+v")
         self.expectDay(today=["tea!", "milk", "bread / rye"])
