@@ -71,7 +71,7 @@ void passOverHangingBus() {
 /// What a second launch does: the first instance comes forward. The process's exit status.
 int handOver() {
   if (activateRunningInstance()) return 0;
-  std::fprintf(stderr, "%s\n", std::string(I18n::t("Brimle is already open.")).c_str());
+  std::fprintf(stderr, "%s\n", I18n::t("Brimle is already open.").c_str());
   return 1;
 }
 
@@ -84,8 +84,8 @@ int run(int argc, char** argv) {
   const FolderLock lock(dataFolder);
   const bool alone = lock.result() != FolderLock::Result::heldByAnother;
 
-  QtPreferencesStore preferences(folders.config / "brimle" / "settings.ini");
-  migrateFromQuorel(preferences, QtPreferencesStore(folders.config / "quorel" / "settings.ini"));
+  QtPreferencesStore preferences(folders.config / "brimle" / "settings.ini", files);
+  migrateFromQuorel(preferences, QtPreferencesStore(folders.config / "quorel" / "settings.ini", files));
   I18n::setLang(I18n::resolve(preferences.string("language").value_or("system"), locale.preferredLanguages));
   if (!alone) {
     const QCoreApplication application(argc, argv);

@@ -63,7 +63,7 @@ std::string pastDayLabel(std::string_view key, Day today) {
   const auto day = parseDay(key);
   const bool isYesterday =
       day && std::chrono::sys_days(*day) + std::chrono::days(1) == std::chrono::sys_days(today);
-  return isYesterday ? std::string(I18n::t("Yesterday")) : formatKey(key, "EEEEdMMMM");
+  return isYesterday ? I18n::t("Yesterday") : formatKey(key, "EEEEdMMMM");
 }
 
 std::string futureDayLabel(std::string_view key) {

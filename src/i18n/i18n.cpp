@@ -98,12 +98,12 @@ void setLang(std::string code) {
   current() = std::move(code);
 }
 
-std::string_view t(std::string_view key) {
-  if (lang() == "en") return key;
+std::string t(std::string_view key) {
+  if (lang() == "en") return std::string(key);
   const auto index = indexes().find(lang());
-  if (index == indexes().end()) return key;
+  if (index == indexes().end()) return std::string(key);
   const auto row = index->second.find(key);
-  return row == index->second.end() ? key : row->second;
+  return std::string(row == index->second.end() ? key : row->second);
 }
 
 std::string resolve(std::string_view setting, const std::vector<std::string>& preferred) {

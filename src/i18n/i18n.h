@@ -33,7 +33,7 @@ const std::string& lang();
 void setLang(std::string code);
 
 /// The text for an English key in the current language; the key itself where there is none.
-std::string_view t(std::string_view key);
+std::string t(std::string_view key);
 
 /// The language code of a stored "language" setting. "system" is resolved by the first entry of `preferred`,
 /// the system's ordered BCP 47 tags; anything else is returned unchanged.

@@ -43,7 +43,7 @@ void Store::loadStarterTasks() {
   for (const std::string_view key :
        {"Tick this task to see it filed away", "Drag me to the top", "Double-click a task to edit it",
         "Right-click a task for everything else"}) {
-    lists_.items.push_back(makeTask(std::string(I18n::t(key))));
+    lists_.items.push_back(makeTask(I18n::t(key)));
   }
   lists_.items.back().notes.emplace_back(I18n::t("Notes sit underneath — try typing: milk // eggs // bread"));
 }
@@ -61,6 +61,10 @@ std::vector<const TodoItem*> Store::visibleItems() const {
     if (!rests(task, weekend)) visible.push_back(&task);
   }
   return visible;
+}
+
+std::size_t Store::remaining() const {
+  return static_cast<std::size_t>(std::ranges::count(visibleItems(), false, &TodoItem::done));
 }
 
 EntryContext Store::entryContext() const {

@@ -78,6 +78,8 @@ class Store {
   const TodoItem* find(const Uuid& id) const;
   /// The tasks of today's list that do not rest today, in their order.
   std::vector<const TodoItem*> visibleItems() const;
+  /// How many of them are not ticked.
+  std::size_t remaining() const;
   /// What the store reads entries by: today, the region, the interface language's locale.
   EntryContext entryContext() const;
 

@@ -17,7 +17,7 @@ bool isStale(const NotificationRequest& request, const std::string& today) {
 }
 
 void addReminders(NotificationCenter& center, const std::vector<ScheduledItem>& future) {
-  const std::string body(I18n::t("On your list today."));
+  const std::string body = I18n::t("On your list today.");
   for (const ScheduledItem& entry : future) {
     const auto day = parseDay(entry.date);
     if (!day) continue;

@@ -40,10 +40,6 @@ std::string told(std::string_view key, const Version& first, const Version& seco
   return text;
 }
 
-std::string text(std::string_view key) {
-  return std::string(I18n::t(key));
-}
-
 }  // namespace
 
 std::optional<CheckResult> resultWithoutFeed(const BuildSettings& settings) {
@@ -62,12 +58,12 @@ CheckOutcome judge(std::string_view document, std::string_view signature, const 
 
 UpdateMessage messageFor(const CheckOutcome& outcome, const Version& running) {
   const auto& [result, title, body] = *std::ranges::find(kWordings, outcome.result, &Wording::result);
-  if (!outcome.feed) return {text(title), told(body, running, running), {}, {{text("OK"), {}}}};
+  if (!outcome.feed) return {I18n::t(title), told(body, running, running), {}, {{I18n::t("OK"), {}}}};
   const Feed& feed = *outcome.feed;
-  return {text(title),
+  return {I18n::t(title),
           told(body, feed.version, running) + '\n' + formatDay(feed.date, "dMMMMy"),
           feed.notes,
-          {{text("Download"), feed.address}, {text("Later"), {}}}};
+          {{I18n::t("Download"), feed.address}, {I18n::t("Later"), {}}}};
 }
 
 }  // namespace brimle

@@ -13,10 +13,6 @@ namespace {
 
 using Kind = TimelineRow::Kind;
 
-std::string translated(std::string_view key) {
-  return std::string(I18n::t(key));
-}
-
 }  // namespace
 
 std::string ArchiveView::title(const TimelineRow& row) const {
@@ -25,9 +21,9 @@ std::string ArchiveView::title(const TimelineRow& row) const {
       // Between a change of the store and the refresh that follows it a row may name an entry that has gone.
       if (row.index >= store_.scheduled().size()) return {};
       return futureDayLabel(store_.scheduled()[row.index].date);
-    case Kind::boundary: return translated("Today");
+    case Kind::boundary: return I18n::t("Today");
     case Kind::nothing:
-      return translated(store_.archive().empty() ? "Past days will collect here at midnight." : "No matches");
+      return I18n::t(store_.archive().empty() ? "Past days will collect here at midnight." : "No matches");
     case Kind::pastDay: return pastDayLabel(row.day->date, time_.today());
     case Kind::futureTask:
     case Kind::pastTask: break;
@@ -38,17 +34,17 @@ std::string ArchiveView::title(const TimelineRow& row) const {
 std::vector<MenuEntry> ArchiveView::menu(const TimelineRow& row) {
   const Uuid id = row.key;
   if (row.kind == Kind::futureTask) {
-    return {{translated("Add note"), [this, id] { addNote(id); }},
-            {translated("Move to today"), [this, id] { store_.bringForward(id); }},
+    return {{I18n::t("Add note"), [this, id] { addNote(id); }},
+            {I18n::t("Move to today"), [this, id] { store_.bringForward(id); }},
             {},
-            {.title = translated("Delete"),
+            {.title = I18n::t("Delete"),
              .action = [this, id] { store_.removeScheduled(id); },
              .destructive = true}};
   }
   if (row.kind == Kind::pastTask) {
-    return {{translated("Bring back to today"), [this, id] { commands_.bringBackTargets(id); }},
+    return {{I18n::t("Bring back to today"), [this, id] { commands_.bringBackTargets(id); }},
             {},
-            {.title = translated("Delete"),
+            {.title = I18n::t("Delete"),
              .action = [this, id] { commands_.deleteTargets(id); },
              .destructive = true}};
   }

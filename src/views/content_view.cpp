@@ -12,12 +12,6 @@ std::string ContentView::dateLine() const {
   return brimle::dateLine(time_.today());
 }
 
-std::size_t ContentView::remaining() const {
-  const auto visible = store_.visibleItems();
-  return static_cast<std::size_t>(
-      std::count_if(visible.begin(), visible.end(), [](const TodoItem* task) { return !task->done; }));
-}
-
 std::size_t ContentView::clearedTodayCount() const {
   const std::string today = dayKey(time_.today());
   const auto day = std::find_if(store_.archive().begin(), store_.archive().end(),
@@ -28,16 +22,16 @@ std::size_t ContentView::clearedTodayCount() const {
 }
 
 ContentView::Count ContentView::count() const {
-  if (const std::size_t open = remaining(); open > 0) {
+  if (const std::size_t open = store_.remaining(); open > 0) {
     return {I18n::tasksCount(static_cast<long long>(open)), false};
   }
-  if (clearedTodayCount() > 0) return {std::string(I18n::t("all done")), true};
+  if (clearedTodayCount() > 0) return {I18n::t("all done"), true};
   return {};
 }
 
 std::string ContentView::tomorrowLabel() const {
   if (store_.tomorrow().empty()) return {};
-  return std::string(I18n::t("tomorrow")) + ": " + std::to_string(store_.tomorrow().size());
+  return I18n::t("tomorrow") + ": " + std::to_string(store_.tomorrow().size());
 }
 
 std::string ContentView::tomorrowTooltip() const {

@@ -24,8 +24,6 @@ class ContentView {
   ContentView(Store& store, const Time& time) : store_(store), time_(time) {}
 
   std::string dateLine() const;
-  /// The number of visible tasks that are not ticked.
-  std::size_t remaining() const;
   /// The number of ticked tasks in the archive of today.
   std::size_t clearedTodayCount() const;
   Count count() const;

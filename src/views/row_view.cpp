@@ -19,10 +19,6 @@ constexpr RepeatTitle kRepeatTitles[] = {
     {RepeatChoice::weekdays, "Weekdays only"},
 };
 
-std::string translated(std::string_view key) {
-  return std::string(I18n::t(key));
-}
-
 bool hasNote(const TodoItem& task, std::int64_t index) {
   return index >= 0 && index < std::ssize(task.notes);
 }
@@ -137,22 +133,22 @@ std::vector<MenuEntry> RowView::menu(const Uuid& id) {
   const TodoItem* task = store_.find(id);
   if (!task) return {};
   std::vector<MenuEntry> items = {
-      {translated(task->done ? "Untick" : "Tick"), [this, id] { commands_.toggleTargets(id); }},
-      {translated("Add note"), [this, id] { addNote(id); }},
-      {translated(task->highlighted ? "Remove highlight" : "Highlight"),
+      {I18n::t(task->done ? "Untick" : "Tick"), [this, id] { commands_.toggleTargets(id); }},
+      {I18n::t("Add note"), [this, id] { addNote(id); }},
+      {I18n::t(task->highlighted ? "Remove highlight" : "Highlight"),
        [this, id] { commands_.highlightTargets(id); }},
-      {translated(task->pinnedTop ? "Unpin" : "Pin to top"), [this, id] { togglePin(id); }},
-      {translated("Move to tomorrow"), [this, id] { commands_.moveTargetsToTomorrow(id); }},
+      {I18n::t(task->pinnedTop ? "Unpin" : "Pin to top"), [this, id] { togglePin(id); }},
+      {I18n::t("Move to tomorrow"), [this, id] { commands_.moveTargetsToTomorrow(id); }},
       {},
-      {translated("Repeat"), {}},
+      {I18n::t("Repeat"), {}},
   };
   for (const auto& [choice, title] : kRepeatTitles) {
-    items.push_back({.title = translated(title),
+    items.push_back({.title = I18n::t(title),
                      .action = [this, id, choice = choice] { setRepeatChoice(id, choice); },
                      .on = repeatChoiceOf(*task) == choice});
   }
   items.push_back({});
-  items.push_back({.title = translated("Delete"),
+  items.push_back({.title = I18n::t("Delete"),
                    .action = [this, id] { commands_.deleteTargets(id); },
                    .destructive = true});
   return items;

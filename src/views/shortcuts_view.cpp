@@ -47,7 +47,7 @@ constexpr SectionText kSections[] = {
 
 std::string keysOf(const RowText& row, const Region& region) {
   if (row.keys == kDateExample) return region.monthFirst ? "> 9/22" : "> 22/9";
-  return std::string(row.keys == kSpace ? I18n::t(kSpace) : row.keys);
+  return row.keys == kSpace ? I18n::t(kSpace) : std::string(row.keys);
 }
 
 }  // namespace
@@ -58,8 +58,8 @@ std::vector<ShortcutsSection> shortcutsCard(const Region& region, std::string_vi
     auto& shown = card.emplace_back();
     shown.title = I18n::t(section.title);
     for (const RowText& row : section.rows) {
-      shown.rows.push_back({keysOf(row, region), std::string(I18n::t(row.description)),
-                            std::string(row.keys == kHotKey ? hotKey : "")});
+      shown.rows.push_back(
+          {keysOf(row, region), I18n::t(row.description), std::string(row.keys == kHotKey ? hotKey : "")});
     }
   }
   return card;

@@ -40,7 +40,7 @@ TEST_F(MenuTest, TicksEachSettingThatIsChosenInEveryLanguage) {
     for (const MenuRow& row : menuRows()) {
       if (row.value.empty() || row.submenu == "Language") continue;
       const std::string item(I18n::t(row.title));
-      const std::string path = row.submenu.empty() ? item : std::string(I18n::t(row.submenu)) + "/" + item;
+      const std::string path = row.submenu.empty() ? item : I18n::t(row.submenu) + "/" + item;
       EXPECT_TRUE(menus.choose("3/" + path)) << path;
       EXPECT_THAT(ticked(), testing::Contains(path)) << language.code;
       EXPECT_EQ(ticked().size(), 6u) << language.code << " " << path;

@@ -21,7 +21,7 @@ TEST_F(StoreLoad, StartsWithFourTasksAndWritesNothingBeforeTheFirstChange) {
     std::string expected;
     for (const auto* key : {"Tick this task to see it filed away", "Drag me to the top",
                             "Double-click a task to edit it", "Right-click a task for everything else"}) {
-      expected += std::string(I18n::t(key)) + "' ";
+      expected += I18n::t(key) + "' ";
     }
     expected.back() = '/';
     expected += I18n::t("Notes sit underneath — try typing: milk // eggs // bread");

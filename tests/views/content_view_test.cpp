@@ -42,7 +42,7 @@ TEST_F(ContentViewTest, TellsWhatWaitsForTomorrow) {
   EXPECT_EQ(view.tomorrowLabel(), "tomorrow: 2");
   EXPECT_EQ(view.tomorrowTooltip(), "T\nU");
   I18n::setLang("fr");
-  EXPECT_EQ(view.tomorrowLabel(), std::string(I18n::t("tomorrow")) + ": 2");
+  EXPECT_EQ(view.tomorrowLabel(), I18n::t("tomorrow") + ": 2");
   EXPECT_EQ(show("A B").count().text, I18n::tasksCount(2));
 }
 

@@ -287,7 +287,7 @@ TEST_F(MainWindowTest, FollowsTheLanguageOfTheSettings) {
   for (const char* language : {"ja", "de", "en"}) {
     ui.setLanguage(language);
     EXPECT_EQ(names(QAccessible::Heading, 1), dateLine(time.today()) + " ");
-    EXPECT_EQ(names(QAccessible::EditableText, 1), std::string(I18n::t("Add a task")) + " ");
+    EXPECT_EQ(names(QAccessible::EditableText, 1), I18n::t("Add a task") + " ");
   }
 }
 

@@ -103,7 +103,6 @@ class AppDelegate {
   // The status item (app_status.cpp).
   void installStatusItem();
   void updateStatus();
-  long long openCount() const;
   std::string countText() const;
   std::vector<MenuEntry> statusMenu();
 

@@ -14,7 +14,7 @@ void AppDelegate::scheduleTestArrival() {
   if (const auto title = ports_.preferences.string("testArrival")) {
     ports_.notifications.addIn(kTestDelay, {.identifier = "arrival-test",
                                             .title = *title,
-                                            .body = std::string(I18n::t("On your list today.")),
+                                            .body = I18n::t("On your list today."),
                                             .trigger = std::nullopt});
   }
 }
@@ -40,7 +40,7 @@ void AppDelegate::toggleLoginItem() {
 }
 
 void AppDelegate::showShortcuts() {
-  ports_.shortcuts.show(std::string(I18n::t("Shortcuts")));
+  ports_.shortcuts.show(I18n::t("Shortcuts"));
 }
 
 void AppDelegate::sendFeedback() {

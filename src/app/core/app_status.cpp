@@ -1,6 +1,4 @@
 // The status item: the count of open tasks beside it, and its small menu.
-#include <algorithm>
-
 #include "app/core/app_delegate.h"
 #include "i18n/dates.h"
 #include "i18n/i18n.h"
@@ -17,22 +15,18 @@ void AppDelegate::installStatusItem() {
 }
 
 void AppDelegate::updateStatus() {
-  const long long open = openCount();
+  const std::size_t open = store_.remaining();
   ports_.status.setTitle(open > 0 ? " " + std::to_string(open) : "", countText());
 }
 
-long long AppDelegate::openCount() const {
-  return std::ranges::count(store_.visibleItems(), false, &TodoItem::done);
-}
-
 std::string AppDelegate::countText() const {
-  const long long open = openCount();
-  return open > 0 ? I18n::tasksCount(open) : std::string(I18n::t("all done"));
+  const auto open = static_cast<long long>(store_.remaining());
+  return open > 0 ? I18n::tasksCount(open) : I18n::t("all done");
 }
 
 std::vector<MenuEntry> AppDelegate::statusMenu() {
   const auto item = [](std::string_view title, std::function<void()> action) {
-    return MenuEntry{.title = std::string(I18n::t(title)), .action = std::move(action)};
+    return MenuEntry{.title = I18n::t(title), .action = std::move(action)};
   };
   const MenuEntry separator;
   return {{.title = countText()},

@@ -19,14 +19,10 @@ constexpr bool isLetter(char key) {
   return lowered(key) >= 'a' && lowered(key) <= 'z';
 }
 
-std::string translated(std::string_view text) {
-  return std::string(I18n::t(text));
-}
-
 MenuEntry entryOf(const MenuRow& row, const MenuActions& actions) {
   MenuEntry entry;
   if (row.title.empty()) return entry;
-  entry.title = translated(row.title);
+  entry.title = I18n::t(row.title);
   entry.action = [perform = actions.perform, &row] { perform(row.command, row.value); };
   entry.key = row.key;
   if (row.marks != MarkGroup::never) entry.on = false;
@@ -40,7 +36,7 @@ bool hasMarks(std::string_view menu) {
 
 Menu menuOf(const MenuRow& row, const MenuActions& actions) {
   Menu menu;
-  menu.title = translated(row.menu);
+  menu.title = I18n::t(row.menu);
   if (hasMarks(row.menu)) menu.willOpen = actions.menuWillOpen;
   return menu;
 }
@@ -76,7 +72,7 @@ MenuBar buildMenu(const MenuActions& actions) {
     if (bar.empty() || row.menu != before.menu) bar.push_back(menuOf(row, actions));
     Entries* items = &bar.back().items;
     if (!row.submenu.empty()) {
-      if (row.submenu != before.submenu) items->push_back({.title = translated(row.submenu)});
+      if (row.submenu != before.submenu) items->push_back({.title = I18n::t(row.submenu)});
       items = &items->back().items;
     }
     items->push_back(entryOf(row, actions));

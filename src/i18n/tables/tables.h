@@ -12,7 +12,7 @@
 namespace brimle::I18n {
 
 inline constexpr std::size_t kInterfaceTexts = 97;
-inline constexpr std::size_t kDesktopTexts = 26;
+inline constexpr std::size_t kDesktopTexts = 23;
 
 using InterfaceTable = Translation[kInterfaceTexts];
 using DesktopTable = Translation[kDesktopTexts];

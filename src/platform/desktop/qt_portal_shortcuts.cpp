@@ -160,7 +160,7 @@ void QtPortalShortcuts::bindShortcuts() {
   isBound_ = true;
   hasAsked_ = true;
   const PortalShortcuts wanted{{kShortcut,
-                                {{"description", QString::fromStdString(std::string(I18n::t("New Task")))},
+                                {{"description", QString::fromStdString(I18n::t("New Task"))},
                                  {"preferred_trigger", QString::fromLatin1(kTrigger)}}}};
   const QString noParentWindow;
   request("BindShortcuts",

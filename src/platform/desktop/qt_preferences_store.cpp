@@ -11,8 +11,8 @@ QString toQt(std::string_view text) {
 
 }  // namespace
 
-QtPreferencesStore::QtPreferencesStore(const Path& file)
-    : settings_(QString::fromStdString(file.string()), QSettings::IniFormat) {}
+QtPreferencesStore::QtPreferencesStore(const Path& file, Files& files)
+    : file_(file), files_(files), settings_(QString::fromStdString(file.string()), QSettings::IniFormat) {}
 
 bool QtPreferencesStore::isOpen() const {
   return settings_.status() == QSettings::NoError;
@@ -25,7 +25,14 @@ std::optional<std::string> QtPreferencesStore::string(std::string_view key) cons
   return value.toStringList().join(QStringLiteral(", ")).toStdString();
 }
 
+/// A file that is there keeps its mode when QSettings writes it; one that QSettings makes is everybody's to
+/// read.
+void QtPreferencesStore::makeFile() {
+  if (files_.createFolders(file_.parent_path())) files_.replace(file_, {});
+}
+
 void QtPreferencesStore::setString(std::string_view key, std::string_view value) {
+  if (!files_.exists(file_)) makeFile();
   settings_.setValue(toQt(key), toQt(value));
 }
 

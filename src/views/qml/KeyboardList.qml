@@ -16,9 +16,9 @@ ListView {
 
     Keys.onPressed: (event) => {
         const page = Math.max(20, height - 40)
-        const places = new Map([[Qt.Key_PageUp, contentY - page], [Qt.Key_PageDown, contentY + page]])
+        const steps = new Map([[Qt.Key_PageUp, -page], [Qt.Key_PageDown, page]])
         event.accepted = true
-        if (places.has(event.key)) contentY = Math.max(originY, Math.min(places.get(event.key), originY + contentHeight - height))
+        if (steps.has(event.key)) scrollBy(steps.get(event.key))
         else if (event.key === Qt.Key_Home) positionViewAtBeginning()
         else if (event.key === Qt.Key_End) positionViewAtEnd()
         else event.accepted = false
@@ -29,6 +29,11 @@ ListView {
         const holder = Window.activeFocusItem
         if (holder && holder !== list) holder.focus = false
         list.forceActiveFocus()
+    }
+    /// By so many points, up to either end.
+    function scrollBy(distance: real) {
+        const lowest = originY + Math.max(0, contentHeight - height)
+        contentY = Math.max(originY, Math.min(contentY + distance, lowest))
     }
     function showRow(row: int) {
         positionViewAtIndex(row, ListView.Contain)

@@ -23,9 +23,6 @@ MouseArea {
         function onActiveChanged() { if (gestures.drag.active) ghost.Drag.active = true }
     }
 
-    // A row moves; what comes from another program stays there, too.
-    function action(): int { return today.draggingId !== "" ? Qt.MoveAction : Qt.CopyAction }
-
     onClicked: (mouse) => {
         if (mouse.button === Qt.RightButton) today.openMenu(taskId, mapToGlobal(mouse.x, mouse.y))
         else today.select(taskId, mouse.modifiers)
@@ -48,18 +45,6 @@ MouseArea {
         Drag.onDragFinished: {
             ghost.Drag.active = false
             gestures.today.endDrag()
-        }
-    }
-
-    DropArea {
-        anchors.fill: parent
-        onEntered: (drag) => {
-            drag.accept(gestures.action())
-            gestures.today.dragEntered(gestures.taskId)
-        }
-        onDropped: (drop) => {
-            drop.accept(gestures.action())
-            gestures.today.dropText(drop.text)
         }
     }
 }

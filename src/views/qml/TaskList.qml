@@ -35,18 +35,14 @@ KeyboardList {
         today: list.today
     }
 
-    DropArea {
-        anchors.fill: parent
-        z: -1
-        onDropped: (drop) => {
-            drop.accept(list.today.draggingId !== "" ? Qt.MoveAction : Qt.CopyAction)
-            list.today.dropText(drop.text)
-        }
-    }
-
     add: Transition {
         enabled: !Theme.reduceMotion
         SpringMove { property: "opacity"; from: 0; to: 1 }
+    }
+    remove: Transition {
+        enabled: !Theme.reduceMotion
+        PropertyAction { property: "enabled"; value: false }
+        SpringMove { property: "opacity"; to: 0 }
     }
     displaced: Transition {
         enabled: !Theme.reduceMotion

@@ -43,6 +43,12 @@ Item {
             visible: !view.archive.showing
             today: view.today
         }
+        ListDrop {
+            anchors.fill: tasks
+            visible: tasks.visible
+            today: view.today
+            list: tasks
+        }
         FocusRing {
             target: tasks
             reach: 2

@@ -3,11 +3,14 @@
 
 #include <QColor>
 #include <QString>
+#include <QStringList>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/uuid.h"
 #include "prefs/palette.h"
+#include "views/row_text.h"
 
 namespace brimle {
 
@@ -19,6 +22,12 @@ inline std::string fromQt(const QString& text) {
 }
 inline QString toQt(const Uuid& id) {
   return toQt(id.string());
+}
+/// Notes as a row shows them.
+inline QStringList shownNotes(const std::vector<std::string>& notes) {
+  QStringList shown;
+  for (const std::string& note : notes) shown.append(toQt(shownText(note)));
+  return shown;
 }
 inline QColor toQt(const Color& color) {
   return QColor::fromRgbF(static_cast<float>(color.red), static_cast<float>(color.green),

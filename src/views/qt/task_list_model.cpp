@@ -1,27 +1,15 @@
 #include "views/qt/task_list_model.h"
 
 #include <algorithm>
-#include <iterator>
-#include <unordered_map>
 #include <utility>
 
-#include "views/list_diff.h"
 #include "views/qt/convert.h"
-#include "views/qt/row_changes.h"
 #include "views/row_text.h"
 #include "views/row_view.h"
 #include "views/web_link.h"
 
 namespace brimle {
 namespace {
-
-QStringList shownNotes(const TodoItem& task) {
-  QStringList notes;
-  for (const std::string& note : task.notes) {
-    notes.append(toQt(shownText(note)));
-  }
-  return notes;
-}
 
 QString repeatsText(const TodoItem& task) {
   switch (repeatChoiceOf(task)) {
@@ -30,14 +18,6 @@ QString repeatsText(const TodoItem& task) {
     case RepeatChoice::weekdays: return QStringLiteral("weekdays");
   }
   return {};
-}
-
-template <class Row>
-std::vector<Uuid> idsOf(const std::vector<Row>& rows) {
-  std::vector<Uuid> ids;
-  ids.reserve(rows.size());
-  for (const Row& row : rows) ids.push_back(row.task.id);
-  return ids;
 }
 
 }  // namespace
@@ -57,7 +37,7 @@ QVariant TaskListModel::data(const QModelIndex& index, int role) const {
     case idRole: return toQt(row.task.id);
     case Qt::DisplayRole:
     case textRole: return toQt(shownText(row.task.text));
-    case notesRole: return shownNotes(row.task);
+    case notesRole: return shownNotes(row.task.notes);
     case doneRole: return row.task.done;
     case pinnedRole: return row.task.pinnedTop;
     case highlightedRole: return row.task.highlighted;
@@ -97,7 +77,7 @@ TaskListModel::Row TaskListModel::look(const TodoItem& task) const {
 }
 
 void TaskListModel::refresh() {
-  refreshes_.run([this] { refreshOnce(); });
+  runInTurn([this] { refreshOnce(); });
 }
 
 void TaskListModel::refreshOnce() {
@@ -105,16 +85,9 @@ void TaskListModel::refreshOnce() {
   for (const TodoItem* task : store_.visibleItems()) {
     next.push_back(look(*task));
   }
-  reorder(next);
+  const auto idOf = [](const Row& row) { return row.task.id; };
+  apply(rowChanges(idsOf(rows_, idOf), idsOf(next, idOf)), rows_, next);
   updateValues(std::move(next));
-}
-
-void TaskListModel::reorder(const std::vector<Row>& next) {
-  const RowChangeSignals tell{
-      [this](int first, int last) { beginRemoveRows({}, first, last); },   [this] { endRemoveRows(); },
-      [this](int first, int last) { beginInsertRows({}, first, last); },   [this] { endInsertRows(); },
-      [this](int from, int to) { beginMoveRows({}, from, from, {}, to); }, [this] { endMoveRows(); }};
-  applyRowChanges(rowChanges(idsOf(rows_), idsOf(next)), rows_, next, tell);
 }
 
 void TaskListModel::updateValues(std::vector<Row> next) {

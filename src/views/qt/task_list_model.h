@@ -2,17 +2,15 @@
 // view can animate what changes. Reads the store only.
 #pragma once
 
-#include <QAbstractListModel>
-#include <unordered_set>
 #include <vector>
 
 #include "control/selection_model.h"
 #include "model/store.h"
-#include "views/qt/row_changes.h"
+#include "views/qt/row_model.h"
 
 namespace brimle {
 
-class TaskListModel : public QAbstractListModel {
+class TaskListModel : public RowModel {
   Q_OBJECT
 
  public:
@@ -58,13 +56,11 @@ class TaskListModel : public QAbstractListModel {
 
   void refreshOnce();
   Row look(const TodoItem& task) const;
-  void reorder(const std::vector<Row>& next);
   void updateValues(std::vector<Row> next);
 
   const Store& store_;
   const SelectionModel& sel_;
   std::vector<Row> rows_;
-  Refreshes refreshes_;
 };
 
 }  // namespace brimle

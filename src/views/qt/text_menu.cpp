@@ -36,7 +36,7 @@ void press(QQuickItem* field, QKeySequence::StandardKey key) {
 }
 
 MenuEntry entryOf(const Row& row, QQuickItem* field) {
-  MenuEntry entry{.title = *row.title ? std::string(I18n::t(row.title)) : ""};
+  MenuEntry entry{.title = *row.title ? I18n::t(row.title) : ""};
   if (!tells(field->property(row.enabledBy))) return entry;
   entry.action = [field = QPointer(field), key = row.key] {
     if (field) press(field, key);

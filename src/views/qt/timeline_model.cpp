@@ -3,9 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "views/list_diff.h"
 #include "views/qt/convert.h"
-#include "views/qt/row_changes.h"
 #include "views/row_text.h"
 
 namespace brimle {
@@ -26,19 +24,6 @@ QString kindText(Kind kind) {
     case Kind::pastTask: return QStringLiteral("past");
   }
   return {};
-}
-
-QStringList shownNotes(const std::vector<std::string>& notes) {
-  QStringList shown;
-  for (const std::string& note : notes) shown.append(toQt(shownText(note)));
-  return shown;
-}
-
-std::vector<Uuid> keysOf(const std::vector<TimelineRow>& rows) {
-  std::vector<Uuid> keys;
-  keys.reserve(rows.size());
-  for (const TimelineRow& row : rows) keys.push_back(row.key);
-  return keys;
 }
 
 bool isTask(const TimelineRow& row) {
@@ -99,13 +84,14 @@ QHash<int, QByteArray> TimelineModel::roleNames() const {
 }
 
 void TimelineModel::refresh() {
-  refreshes_.run([this] { refreshOnce(); });
+  runInTurn([this] { refreshOnce(); });
 }
 
 void TimelineModel::refreshOnce() {
   auto next = view_.rows();
-  const auto before = keysOf(rows_);
-  const auto after = keysOf(next);
+  const auto keyOf = [](const TimelineRow& row) { return row.key; };
+  const auto before = idsOf(rows_, keyOf);
+  const auto after = idsOf(next, keyOf);
   const std::size_t difference =
       before.size() > after.size() ? before.size() - after.size() : after.size() - before.size();
   const auto changes = difference > kMostAnimated ? std::vector<RowChange>() : rowChanges(before, after);
@@ -115,12 +101,7 @@ void TimelineModel::refreshOnce() {
     endResetModel();
     return;
   }
-  applyRowChanges(
-      changes, rows_, next,
-      RowChangeSignals{
-          [this](int first, int last) { beginRemoveRows({}, first, last); }, [this] { endRemoveRows(); },
-          [this](int first, int last) { beginInsertRows({}, first, last); }, [this] { endInsertRows(); },
-          [this](int from, int to) { beginMoveRows({}, from, from, {}, to); }, [this] { endMoveRows(); }});
+  apply(changes, rows_, next);
   rows_ = std::move(next);
   touch();
 }

@@ -1,15 +1,14 @@
 // The rows of the archive's timeline for QML, kept in step row by row, so that the view keeps its place.
 #pragma once
 
-#include <QAbstractListModel>
 #include <vector>
 
 #include "views/archive_view.h"
-#include "views/qt/row_changes.h"
+#include "views/qt/row_model.h"
 
 namespace brimle {
 
-class TimelineModel : public QAbstractListModel {
+class TimelineModel : public RowModel {
   Q_OBJECT
 
  public:
@@ -54,7 +53,6 @@ class TimelineModel : public QAbstractListModel {
   const ArchiveView& view_;
   const SelectionModel& sel_;
   std::vector<TimelineRow> rows_;
-  Refreshes refreshes_;
 };
 
 }  // namespace brimle
