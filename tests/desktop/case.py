@@ -54,6 +54,8 @@ class DesktopCase(unittest.TestCase):
         self.addCleanup(self.menus.end)
         self.app = self.until(lambda: applicationOf(self._program), "the program was on the accessibility bus")
         self.window = self.app.find("window", "Brimle")
+        # The field may say that it has the keyboard before its window has.
+        self.waitForKeyboard()
         self.waitForFocus(self.add)
 
     def startElsewhere(self, *today, **environment):
@@ -61,6 +63,10 @@ class DesktopCase(unittest.TestCase):
         other buses than those of the tests. Waits until its window has the keyboard."""
         self.day = Day(list(today))
         self._launch(os.environ | environment)
+        self.waitForKeyboard()
+
+    def waitForKeyboard(self):
+        """Until the program's window has it."""
         self.until(lambda: hands.keyboardOwner() == self._program.pid, "the window had the keyboard")
 
     def _launch(self, environment):

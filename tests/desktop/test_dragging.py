@@ -53,6 +53,18 @@ class DraggingRows(DraggingCase):
         self.selectAndExpect("eggs")
         self.undoUntil(today=["milk", "bread", "tea", "eggs"])
 
+    def testTheListScrollsUnderADragAtItsEdge(self):
+        tasks = [f"task {number}" for number in range(20)]
+        self.start(*tasks)
+        self.takeHold("task 1")
+        for down, moved in [(0.97, [tasks[0], *tasks[2:], tasks[1]]), (0.03, [tasks[1], tasks[0], *tasks[2:]])]:
+            edge = self.window.find("list").point(down=down)
+            hands.glide(self.place, edge)
+            self.place = edge
+            self.expectDay(trembling(edge), today=moved)
+        hands.letGo()
+        self.undoUntil(today=tasks)
+
     def testEscapeEndsADragAndTheNextIsLikeTheFirst(self):
         self.start("milk", "bread", "tea")
         self.takeHold("tea")

@@ -22,7 +22,7 @@ class Screens(DesktopCase):
         self._launch(os.environ)
         self.until(lambda: hands.windowOf(self._program), "the window was there")
         hands.focus(hands.windowOf(self._program))
-        self.until(lambda: hands.keyboardOwner() == self._program.pid, "the window had the keyboard")
+        self.waitForKeyboard()
         return server
 
     def testTheWindowComesBackOntoAScreenThatShrank(self):

@@ -1,6 +1,7 @@
 """The user's hands on Wayland: keys of a virtual keyboard, with the functions and names of tests/desktop/hands.py. There
 is no pointer.
 """
+import json
 import subprocess
 
 KEY_DELAY = 8  # milliseconds between two typed characters
@@ -35,3 +36,15 @@ def enter(text):
 
 def moveTo(_point):
     pass
+
+
+def keyboardOwner():
+    """The process whose window has the keyboard; nothing where no window has it."""
+    tree = subprocess.run(["swaymsg", "--raw", "-t", "get_tree"], capture_output=True, check=True, timeout=30).stdout
+    nodes = [json.loads(tree)]
+    while nodes:
+        node = nodes.pop()
+        if node["focused"]:
+            return node.get("pid")
+        nodes += node["nodes"] + node["floating_nodes"]
+    return None
