@@ -9,7 +9,8 @@ namespace brimle {
 
 ArchiveScreen::ArchiveScreen(Store& store, SelectionModel& sel, UIState& ui, ArchiveView& view,
                              Signal<>& todayFocusAdd)
-    : store_(store),
+    : RowScreen(sel, RowList::archive),
+      store_(store),
       ui_(ui),
       sel_(sel),
       view_(view),
@@ -67,27 +68,15 @@ void ArchiveScreen::openMenu(const QString& key, const QPointF& place) {
   if (row) popUpMenu(view_.menu(*row), place.toPoint());
 }
 
-/// The row the selection ends at; -1 where nothing that is visible is selected.
-int ArchiveScreen::leadRow() const {
-  const auto lead = selectedLead(sel_.rows(RowList::archive));
-  return lead ? rows_.rowOf(*lead) : -1;
-}
-
 /// Only one thing at a time is what keys act on.
 void ArchiveScreen::setFocusedKey(const QString& key) {
   focusedKey_ = key;
   if (!key.isEmpty() && !sel_.archiveSelection().empty()) sel_.setArchiveSelection({});
 }
 
-bool ArchiveScreen::askForMenu() {
+int ArchiveScreen::rowOfKeys() const {
   const auto focused = Uuid::parse(fromQt(focusedKey_));
-  const int row = focused ? rows_.rowOf(*focused) : leadRow();
-  if (row >= 0) emit menuAsked(row);
-  return row >= 0;
-}
-
-void ArchiveScreen::showLead() {
-  if (const int row = leadRow(); row >= 0) emit rowShown(row);
+  return focused ? rowOf(*focused) : leadRow();
 }
 
 void ArchiveScreen::remove(const QString& key) {

@@ -3,16 +3,15 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QObject>
-#include <QPointF>
 
 #include "control/row_commands.h"
 #include "views/archive_view.h"
+#include "views/qt/row_screen.h"
 #include "views/qt/timeline_model.h"
 
 namespace brimle {
 
-class ArchiveScreen : public QObject {
+class ArchiveScreen : public brimle::RowScreen {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("made by the program")
@@ -56,22 +55,15 @@ class ArchiveScreen : public QObject {
   Q_INVOKABLE void setFocusedKey(const QString& key);
   /// The row of the next scheduled task below a row, or above with -1; -1 where there is none.
   Q_INVOKABLE int nextScheduled(int row, int step) const { return rows_.nextScheduled(row, step); }
-  /// Asks the timeline for the context menu of the row that has the keyboard, else of the one the selection
-  /// ends at; whether there is one.
-  bool askForMenu();
-  /// Asks the timeline to scroll to where the selection ends.
-  void showLead();
 
  signals:
-  void menuAsked(int row);
-  void rowShown(int row);
   void changed();
   void rowsChanged();
-  void releaseKeyboard();
 
  private:
   void refresh();
-  int leadRow() const;
+  int rowOf(const Uuid& key) const override { return rows_.rowOf(key); }
+  int rowOfKeys() const override;
 
   Store& store_;
   UIState& ui_;

@@ -2,7 +2,7 @@
 
 #include <QGuiApplication>
 #include <QKeyEvent>
-#include <QPointer>
+#include <QMouseEvent>
 #include <QQuickWindow>
 
 #include "i18n/i18n.h"
@@ -46,36 +46,27 @@ MenuEntry entryOf(const Row& row, QQuickItem* field) {
 
 }  // namespace
 
-void TextMenu::setField(QQuickItem* field) {
-  if (field_ == field) return;
-  if (field_) field_->removeEventFilter(this);
-  field_ = field;
-  if (field_) {
-    field_->setAcceptedMouseButtons(field_->acceptedMouseButtons() | Qt::RightButton);
-    field_->installEventFilter(this);
-  }
-  emit fieldChanged();
+TextMenu::TextMenu() {
+  connect(this, &FieldWatch::fieldChanged, this, [this] {
+    if (field()) field()->setAcceptedMouseButtons(field()->acceptedMouseButtons() | Qt::RightButton);
+  });
 }
 
-bool TextMenu::eventFilter(QObject* watched, QEvent* event) {
-  if (watched != field_) return false;
-  if (event->type() == QEvent::KeyPress) return openByKey(*static_cast<QKeyEvent*>(event));
-  if (event->type() != QEvent::MouseButtonPress) return false;
-  const auto& mouse = *static_cast<QMouseEvent*>(event);
-  return mouse.button() == Qt::RightButton && openAt(mouse.position());
+bool TextMenu::buttonPressed(const QMouseEvent& press) {
+  return press.button() == Qt::RightButton && openAt(press.position());
 }
 
-bool TextMenu::openByKey(const QKeyEvent& key) {
+bool TextMenu::keyPressed(const QKeyEvent& key) {
   const bool shiftF10 = key.key() == Qt::Key_F10 && key.modifiers() == Qt::ShiftModifier;
   if (key.key() != Qt::Key_Menu && !shiftF10) return false;
-  return openAt(field_->property("cursorRectangle").toRectF().bottomLeft());
+  return openAt(field()->property("cursorRectangle").toRectF().bottomLeft());
 }
 
 bool TextMenu::openAt(const QPointF& place) {
-  field_->forceActiveFocus();
+  field()->forceActiveFocus();
   std::vector<MenuEntry> items;
-  for (const Row& row : kRows) items.push_back(entryOf(row, field_));
-  popUpMenu(items, field_->mapToGlobal(place).toPoint());
+  for (const Row& row : kRows) items.push_back(entryOf(row, field()));
+  popUpMenu(items, field()->mapToGlobal(place).toPoint());
   return true;
 }
 

@@ -1,34 +1,26 @@
 // The context menu of a text field: undo, redo, cut, copy, paste, select all. Opened by a right click, the
-// Menu key or Shift+F10. Watches the field it is given and acts through it.
+// Menu key or Shift+F10; acts through the field.
 #pragma once
 
-#include <QtQml/qqmlregistration.h>
-#include <QObject>
 #include <QPointF>
-#include <QQuickItem>
+
+#include "views/qt/field_watch.h"
 
 namespace brimle {
 
-class TextMenu : public QObject {
+class TextMenu : public brimle::FieldWatch {
   Q_OBJECT
   QML_ELEMENT
-  Q_PROPERTY(QQuickItem* field READ field WRITE setField NOTIFY fieldChanged)
 
  public:
-  QQuickItem* field() const { return field_; }
-  void setField(QQuickItem* field);
-
- signals:
-  void fieldChanged();
+  TextMenu();
 
  protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
+  bool keyPressed(const QKeyEvent& key) override;
+  bool buttonPressed(const QMouseEvent& press) override;
 
  private:
   bool openAt(const QPointF& place);
-  bool openByKey(const QKeyEvent& key);
-
-  QQuickItem* field_ = nullptr;
 };
 
 }  // namespace brimle

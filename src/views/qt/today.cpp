@@ -19,7 +19,8 @@ void withId(const QString& text, Action action) {
 }  // namespace
 
 Today::Today(Parts parts)
-    : parts_(parts),
+    : RowScreen(parts.sel, RowList::today),
+      parts_(parts),
       header_(headerLook(parts.content, parts.archive, parts.ui)),
       rows_(parts.store, parts.sel, parts.time),
       commands_(parts.store, parts.sel),
@@ -89,22 +90,6 @@ void Today::openLink(const QString& address) {
 
 void Today::openMenu(const QString& taskId, const QPointF& place) {
   withId(taskId, [&](const Uuid& id) { popUpMenu(rows_.menu(id), place.toPoint()); });
-}
-
-/// The row the selection ends at; -1 where nothing that is visible is selected.
-int Today::leadRow() const {
-  const auto lead = selectedLead(parts_.sel.rows(RowList::today));
-  return lead ? tasks_.rowOf(*lead) : -1;
-}
-
-bool Today::askForMenu() {
-  const int row = leadRow();
-  if (row >= 0) emit menuAsked(row);
-  return row >= 0;
-}
-
-void Today::showLead() {
-  if (const int row = leadRow(); row >= 0) emit rowShown(row);
 }
 
 void Today::beginEdit(const QString& taskId) {

@@ -2,9 +2,6 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QObject>
-#include <QPointF>
-#include <QQuickWindow>
 
 #include "base/limits.h"
 #include "base/signal.h"
@@ -15,13 +12,14 @@
 #include "views/content_view.h"
 #include "views/header_view.h"
 #include "views/qt/convert.h"
+#include "views/qt/row_screen.h"
 #include "views/qt/task_list_model.h"
 #include "views/row_drag.h"
 #include "views/row_view.h"
 
 namespace brimle {
 
-class Today : public QObject {
+class Today : public brimle::RowScreen {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("made by the program")
@@ -95,28 +93,17 @@ class Today : public QObject {
   }
   Q_INVOKABLE void dropText(const QString& text);
 
-  // For the keyboard.
-  /// Asks the list for the context menu of the selected row, of several the one the selection ends at;
-  /// whether there is one.
-  bool askForMenu();
-  /// Asks the list to scroll to where the selection ends.
-  void showLead();
-
  signals:
   /// The window's menu is asked for.
   void menuRequested();
-  void menuAsked(int row);
-  void rowShown(int row);
   void changed();
   void dragChanged();
   /// The entry field is asked to take the keyboard.
   void focusAdd();
-  /// Text fields are asked to give the keyboard up, as after a click on a row.
-  void releaseKeyboard();
 
  private:
+  int rowOf(const Uuid& id) const override { return tasks_.rowOf(id); }
   void refreshHeader();
-  int leadRow() const;
 
   const Parts parts_;
   HeaderLook header_;
