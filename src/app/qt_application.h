@@ -3,7 +3,6 @@
 
 #include <QPointer>
 #include <QWidget>
-#include <functional>
 #include <optional>
 
 #include "platform/application.h"

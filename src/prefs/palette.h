@@ -15,7 +15,6 @@ struct Color {
   double blue;
   double alpha;
 
-  Color withOpacity(double opacity) const { return {red, green, blue, alpha * opacity}; }
   bool operator==(const Color&) const = default;
 };
 

@@ -5,7 +5,6 @@
 // draft. The editor walks with the keyboard between the task's text and its notes.
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>

@@ -104,8 +104,8 @@ TEST_F(PaletteTest, HasPaperInTheToneInForceAndFaintColours) {
     EXPECT_EQ(Palette::paper(Appearance::dark),
               plain ? (Color{0.115, 0.115, 0.115, 1}) : (Color{0.125, 0.12, 0.11, 1}));
   }
-  EXPECT_EQ(Palette::pencilRed(Appearance::dark).withOpacity(0.5), (Color{0.85, 0.47, 0.38, 0.5}));
-  EXPECT_EQ(Palette::highlight(Appearance::light).withOpacity(0.5), (Color{1, 0.87, 0.3, 0.225}));
+  EXPECT_EQ(Palette::pencilRed(Appearance::dark), (Color{0.85, 0.47, 0.38, 1}));
+  EXPECT_EQ(Palette::highlight(Appearance::light), (Color{1, 0.87, 0.3, 0.45}));
   EXPECT_EQ(Palette::label(Palette::Label::secondary, Appearance::dark, false), (Color{1, 1, 1, 0.55}));
   EXPECT_EQ(Palette::label(Palette::Label::tertiary, Appearance::light, true), (Color{0, 0, 0, 0.6}));
 }

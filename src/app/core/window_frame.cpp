@@ -4,7 +4,6 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <iterator>
 
 #include "app/core/window_rules.h"
 

@@ -1,5 +1,5 @@
-// What stands beside a text field and sees its events before the field does. Keeps no field alive. Those that derive
-// from it name it in full: the tools of QML look a base up by the name that is written.
+// What stands beside a text field and sees its events before the field does. Keeps no field alive. Those that
+// derive from it name it in full: the tools of QML look a base up by the name that is written.
 #pragma once
 
 #include <QtQml/qqmlregistration.h>

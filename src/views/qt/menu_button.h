@@ -3,7 +3,6 @@
 // business, not its own.
 #pragma once
 
-#include <QMenu>
 #include <QPoint>
 
 #include "platform/menu_host.h"

@@ -1,6 +1,6 @@
-// What the screens of rows have in common: they ask their list, which alone knows where a row is drawn, to show a
-// row, to open its menu, or to take the keyboard. Those that derive from it name it in full: the tools of QML look a
-// base up by the name that is written.
+// What the screens of rows have in common: they ask their list, which alone knows where a row is drawn, to
+// show a row, to open its menu, or to take the keyboard. Those that derive from it name it in full: the tools
+// of QML look a base up by the name that is written.
 #pragma once
 
 #include <QtQml/qqmlregistration.h>

@@ -4,7 +4,6 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QColor>
-#include <QFont>
 #include <QJSEngine>
 #include <QObject>
 #include <QPalette>
