@@ -7,7 +7,7 @@ namespace {
 class TwoYears : public WorkingUser {
  protected:
   TwoYears() {
-    mostAtOnce = 34;
+    mostAtOnce = 36;
     habits.insert(
         habits.end(),
         {{40, withTask([this](const auto& task) { rewrite(task); })},
