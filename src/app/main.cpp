@@ -21,6 +21,7 @@
 #include "platform/desktop/posix_folder_lock.h"
 #include "platform/desktop/qt_desktop.h"
 #include "platform/desktop/qt_feed_source.h"
+#include "platform/desktop/qt_global_menu.h"
 #include "platform/desktop/qt_hot_key.h"
 #include "platform/desktop/qt_instance.h"
 #include "platform/desktop/qt_link_opener.h"
@@ -38,6 +39,7 @@
 #include "prefs/ui_state.h"
 #include "updates/feed_update_controller.h"
 #include "views/content_view.h"
+#include "views/qt/context_menu.h"
 #include "views/qt/main_window.h"
 
 namespace brimle {
@@ -110,7 +112,8 @@ int run(int argc, char** argv) {
   QtDesktop desktop(settings);
   QtPasteboard pasteboard;
   QtLinkOpener links;
-  QtStatusItem status(settings, desktopLooksDark);
+  QtStatusItem status(settings, desktopLooksDark, popUpMenu);
+  QtGlobalMenu globalMenu;
   const std::unique_ptr<HotKey> hotKey = hotKeyOfDesktop(preferences);
   QtLoginItem loginItem(files);
   QtFeedSource feed;
@@ -136,13 +139,18 @@ int run(int argc, char** argv) {
   ArchiveView archive(store, sel, ui, time);
   MainWindow window({store, content, archive, ui, sel, time, todayFocusAdd, links}, pasteboard);
   QtApplication desktopApplication(window.theme(), settings, desktopLooksDark);
-  AppDelegate app({time, desktop, preferences, pasteboard, notifications, desktopApplication, window,
-                   window.menus(), status, *hotKey, loginItem, updates, window.shortcuts(), links},
+  MenuHosts menus({&window.menus(), &globalMenu});
+  AppDelegate app({time, desktop, preferences, pasteboard, notifications, desktopApplication, window, menus,
+                   status, *hotKey, loginItem, updates, window.shortcuts(), links},
                   store, ui, todayFocusAdd, build.supportAddress);
 
   window.setReports({.key = [&](const KeyPress& key) { return app.performKeyEquivalent(key); },
                      .frameChanged = [&] { app.windowFrameChanged(); },
-                     .shown = [](QWindow& shown) { showOnAllWorkspaces(shown); },
+                     .shown =
+                         [&globalMenu](QWindow& shown) {
+                           showOnAllWorkspaces(shown);
+                           globalMenu.setWindow(shown);
+                         },
                      // A window that nobody can ask for again must not be closed into nowhere.
                      .closed =
                          [&instance] {

@@ -29,4 +29,10 @@ struct Menu {
 
 using MenuBar = std::vector<Menu>;
 
+/// A submenu for each menu of the bar, with titles for all.
+std::vector<MenuEntry> submenusOf(const MenuBar& bar);
+
+/// To be called before menus of the bar open. Whoever sets their check marks may replace the bar meanwhile.
+void tellThatMenusOpen(const MenuBar& bar);
+
 }  // namespace brimle

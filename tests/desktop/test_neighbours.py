@@ -16,7 +16,9 @@ from waiting import waitUntil
 
 NAME, PATH, INTERFACE = "org.brimle.Brimle", "/org/brimle/Brimle", "org.freedesktop.Application"
 PORTAL, SETTINGS = "/org/freedesktop/portal/desktop", "org.freedesktop.portal.Settings"
-SERVICES = ["org.freedesktop.portal.Desktop", "org.freedesktop.Notifications", "org.kde.StatusNotifierWatcher"]
+SERVICES = ["org.freedesktop.portal.Desktop", "org.freedesktop.Notifications", "org.kde.StatusNotifierWatcher",
+            "com.canonical.AppMenu.Registrar"]
+ASKED = {"ReadAll", "GetCapabilities", "RegisterStatusNotifierItem", "RegisterWindow"}  # of each of them
 NONSENSE = [  # arguments and their signature
     ([], ""),
     (["text"], "s"),
@@ -54,7 +56,7 @@ class Neighbours(DesktopCase):
                 neighbour = self.meet(*SERVICES, answer=answer)
                 self.remindNow()
                 self.start("milk")
-                waitUntil(lambda: {"ReadAll", "Get", "GetCapabilities"} <= set(neighbour.calls), lambda: f"all were asked; {neighbour.calls} were")
+                waitUntil(lambda: ASKED <= set(neighbour.calls), lambda: f"all were asked; {neighbour.calls} were")
                 self.expectInUse()
                 neighbour.end()
                 self.expectInUse()

@@ -2,9 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <QApplication>
-#include <QMenu>
-
 #include "platform/desktop/qt_status_icon.h"
 #include "platform_qt/panel.h"
 
@@ -12,6 +9,7 @@ namespace brimle {
 namespace {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 using testing::SizeIs;
 
 constexpr QRgb kDarkInk = qRgb(0x2b, 0x2b, 0x2b);
@@ -35,7 +33,7 @@ class StatusItemTest : public testing::Test {
     std::vector<MenuEntry> rows{{.title = first},
                                 {},
                                 {.title = "New Task", .action = writing("new")},
-                                {.title = "This & that", .action = writing("that"), .on = true}};
+                                {.title = "This & th_at", .action = writing("that"), .on = true}};
     if (longer) rows.push_back({.title = "Quit Brimle", .action = writing("quit")});
     return rows;
   }
@@ -47,7 +45,13 @@ class StatusItemTest : public testing::Test {
 
   Panel panel;
   QtSettingsPortal settings;
-  QtStatusItem item{settings, false};
+  QtStatusItem::PopUp popUp = [this](const std::vector<MenuEntry>& items, QPoint place) {
+    poppedUp = items;
+    poppedUpAt = place;
+  };
+  QtStatusItem item{settings, false, popUp};
+  std::vector<MenuEntry> poppedUp;
+  QPoint poppedUpAt;
   std::string first = "1 task";
   bool longer = false;
   std::vector<std::string> journal;
@@ -64,6 +68,10 @@ TEST_F(StatusItemTest, AppearsOnceAPanelIsThereAndOnEachThatFollows) {
   panel.awaitRegistrations(1);
   EXPECT_EQ(panel.tooltip(), "3 tasks");
   EXPECT_EQ(panel.icon(22), picture(22, 3));
+
+  panel.gainHost();
+  panel.settle();
+  EXPECT_EQ(panel.registrations, 1) << "it was taken already";
 
   panel.stop();
   item.setTitle(" 4", "4 tasks");
@@ -97,20 +105,21 @@ TEST_F(StatusItemTest, ShowsTheCountInItsIconAndTellsItInWords) {
     for (const int side : {16, 22, 24, 32, 48, 64})
       EXPECT_EQ(panel.icon(side), picture(side, count)) << title << side;
   }
-  EXPECT_EQ(panel.property("Title"), "Brimle");
 }
 
 TEST_F(StatusItemTest, SendsItsIconOnlyWhenItChanges) {
   show();
   item.setTitle(" 5", "5 tasks");
   panel.tooltip();
-  const int before = panel.newIcons;
+  const int icons = panel.newIcons, toolTips = panel.newToolTips;
   item.setTitle(" 5", "5 Aufgaben");
   EXPECT_EQ(panel.tooltip(), "5 Aufgaben");
-  EXPECT_EQ(panel.newIcons, before);
-  item.setTitle(" 6", "6 Aufgaben");
+  EXPECT_EQ(panel.newIcons, icons);
+  EXPECT_EQ(panel.newToolTips, toolTips + 1);
+  item.setTitle(" 6", "5 Aufgaben");
   panel.tooltip();
-  EXPECT_EQ(panel.newIcons, before + 1);
+  EXPECT_EQ(panel.newIcons, icons + 1);
+  EXPECT_EQ(panel.newToolTips, toolTips + 1);
 }
 
 TEST_F(StatusItemTest, TakesTheColourOfThePanel) {
@@ -138,7 +147,7 @@ TEST_F(StatusItemTest, IsLightOnAPanelThatIsAlwaysDark) {
                 {"", true, kLightInk}};
   for (const auto& [desktop, looksDark, ink] : kCases) {
     qputenv("XDG_CURRENT_DESKTOP", desktop);
-    QtStatusItem one(settings, looksDark);
+    QtStatusItem one(settings, looksDark, popUp);
     install(one);
     panel.awaitRegistrations(panel.registrations + 1);
     EXPECT_EQ(inkShown(), ink) << desktop;
@@ -156,30 +165,61 @@ TEST_F(StatusItemTest, IsClickedWithTheTokenOfThatClick) {
 
 TEST_F(StatusItemTest, AsksForItsMenuEachTimeItOpens) {
   show();
-  EXPECT_THAT(panel.menuRows(), ElementsAre("(1 task)", "-", "New Task", "x This _& that"));
+  MenuClient& menu = panel.menu();
+  EXPECT_THAT(menu.rows(), ElementsAre("(1 task)", "-", "New Task", "x This & th__at"));
   first = "2 tasks";
-  panel.openMenu();
-  panel.choose(2);  // in the rows as they were
-  EXPECT_THAT(panel.menuRows(), ElementsAre("(2 tasks)", "-", "New Task", "x This _& that"));
+  EXPECT_TRUE(menu.open());
+  menu.click(menu.id(2));  // of the rows as they were
+  EXPECT_THAT(menu.rows(), ElementsAre("(2 tasks)", "-", "New Task", "x This & th__at"));
   longer = true;
-  panel.openMenu();
-  EXPECT_THAT(panel.menuRows(), SizeIs(5));
-  panel.choose(4);
-  panel.choose(3);
+  menu.open();
+  EXPECT_THAT(menu.rows(), SizeIs(5));
+  menu.click(menu.id(4));
+  menu.click(menu.id(3));
   EXPECT_THAT(journal, ElementsAre("new", "quit", "that"));
 }
 
 TEST_F(StatusItemTest, OpensItsMenuForAPanelThatShowsNone) {
   show();
   first = "2 tasks";
-  panel.call("ContextMenu", {0, 0});
-  auto* popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-  ASSERT_NE(popup, nullptr);
-  EXPECT_EQ(popup->actions()[0]->text(), "2 tasks");
-  EXPECT_FALSE(popup->actions()[0]->isEnabled());
-  popup->actions()[2]->trigger();
-  EXPECT_THAT(journal, ElementsAre("new"));
-  popup->close();
+  panel.call("ContextMenu", {120, 45});
+  EXPECT_EQ(poppedUpAt, QPoint(120, 45));
+  ASSERT_THAT(poppedUp, SizeIs(4));
+  EXPECT_EQ(poppedUp[0].title, "2 tasks");
+}
+
+TEST_F(StatusItemTest, TellsPanelsWhatItIs) {
+  show();
+  const std::map<QString, QVariant> kProperties{{"Category", "ApplicationStatus"},
+                                                {"Id", "org.brimle.Brimle"},
+                                                {"Title", "Brimle"},
+                                                {"Status", "Active"},
+                                                {"WindowId", 0},
+                                                {"IconName", ""},
+                                                {"ItemIsMenu", false}};
+  for (const auto& [name, value] : kProperties) EXPECT_EQ(panel.property(name), value) << name.toStdString();
+}
+
+TEST_F(StatusItemTest, IsUnmovedByCallsThatMeanNothingToIt) {
+  show();
+  panel.call("SecondaryActivate", {0, 0});
+  panel.call("Scroll", {-120, "vertical"});
+  const std::pair<const char*, QVariantList> kRefused[] = {
+      {"Activate", {}}, {"Activate", {"0", "0"}}, {"ProvideXdgActivationToken", {7}}, {"deleteLater", {}}};
+  for (const auto& [method, arguments] : kRefused)
+    EXPECT_TRUE(panel.isRefused(method, arguments)) << method << arguments.size();
+  EXPECT_THAT(journal, IsEmpty());
+  panel.call("Activate", {-2147483647, 2147483647});
+  panel.call("ContextMenu", {-2147483647, 2147483647});
+  EXPECT_THAT(journal, ElementsAre("click "));
+  EXPECT_THAT(poppedUp, SizeIs(4));
+}
+
+TEST_F(StatusItemTest, WaitsForNoWatcher) {
+  SilentService silent("org.kde.StatusNotifierWatcher");
+  install(item);
+  item.setTitle(" 3", "3 tasks");
+  EXPECT_TRUE(silent.isNotWaitedFor("RegisterStatusNotifierItem"));
 }
 
 }  // namespace

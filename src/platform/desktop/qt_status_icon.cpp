@@ -2,13 +2,11 @@
 
 #include <QPainter>
 #include <QPainterPath>
-#include <QPixmap>
 #include <QStringList>
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <string>
-#include <vector>
 
 namespace brimle {
 namespace {
@@ -149,10 +147,10 @@ QImage statusPicture(int side, long long count, const QColor& ink) {
   return image;
 }
 
-QIcon statusIcon(long long count, const QColor& ink) {
-  QIcon icon;
-  for (const int side : kSides) icon.addPixmap(QPixmap::fromImage(statusPicture(side, count, ink)));
-  return icon;
+std::vector<QImage> statusPictures(long long count, const QColor& ink) {
+  std::vector<QImage> pictures;
+  for (const int side : kSides) pictures.push_back(statusPicture(side, count, ink));
+  return pictures;
 }
 
 }  // namespace brimle

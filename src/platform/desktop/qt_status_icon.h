@@ -4,8 +4,8 @@
 #pragma once
 
 #include <QColor>
-#include <QIcon>
 #include <QImage>
+#include <vector>
 
 namespace brimle {
 
@@ -14,6 +14,6 @@ namespace brimle {
 QImage statusPicture(int side, long long count, const QColor& ink);
 
 /// The picture at the sizes that panels use, on screens of scale 1 and 2.
-QIcon statusIcon(long long count, const QColor& ink);
+std::vector<QImage> statusPictures(long long count, const QColor& ink);
 
 }  // namespace brimle

@@ -1,18 +1,16 @@
 #include "platform/desktop/qt_status_item.h"
 
-#include <QCursor>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
-#include <QDBusVariant>
-#include <QMenu>
-#include <QSystemTrayIcon>
 #include <algorithm>
 #include <array>
+#include <utility>
 
+#include "platform/desktop/qt_dbus_menu.h"
 #include "platform/desktop/qt_status_icon.h"
+#include "platform/desktop/qt_status_notifier.h"
 
 namespace brimle {
 namespace {
@@ -20,7 +18,7 @@ namespace {
 constexpr auto kService = "org.kde.StatusNotifierWatcher";
 constexpr auto kPath = "/StatusNotifierWatcher";
 constexpr auto kInterface = "org.kde.StatusNotifierWatcher";
-constexpr auto kToken = "XDG_ACTIVATION_TOKEN";
+constexpr auto kMenuPath = "/org/brimle/Brimle/StatusMenu";
 
 constexpr QRgb kDarkInk = qRgb(0x2b, 0x2b, 0x2b);
 constexpr QRgb kLightInk = qRgb(0xf2, 0xf2, 0xf2);
@@ -35,121 +33,77 @@ bool hasDarkPanel(const QString& desktopNames) {
   return std::ranges::any_of(kDarkPanels, [&](const char* dark) { return name == QLatin1String(dark); });
 }
 
-/// An ampersand in a title is a letter, not a mnemonic.
-QString plainTitle(const std::string& title) {
-  return QString::fromStdString(title).replace('&', QLatin1String("&&"));
-}
-
 }  // namespace
 
-QtStatusItem::QtStatusItem(QtSettingsPortal& settings, bool desktopLooksDark)
+QtStatusItem::QtStatusItem(QtSettingsPortal& settings, bool desktopLooksDark, PopUp popUp)
     : settings_(settings),
       desktopLooksDark_(desktopLooksDark),
-      menu_(std::make_unique<QMenu>()),
-      appearance_(settings.observe([this] { redraw(); })) {
-  connect(menu_.get(), &QMenu::aboutToShow, this, &QtStatusItem::fillMenu);
-}
+      popUp_(std::move(popUp)),
+      appearance_(settings.observe([this] { redraw(); })) {}
 
 QtStatusItem::~QtStatusItem() = default;
 
 void QtStatusItem::install(Actions actions) {
   actions_ = std::move(actions);
-  fillMenu();
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return;
+  menu_ = std::make_unique<QtDBusMenu>(kMenuPath, actions_.menu);
+  notifier_ = std::make_unique<QtStatusNotifier>(
+      kMenuPath, QtStatusNotifier::Reports{.click = actions_.click, .contextMenu = [this](QPoint place) {
+                                             popUp_(actions_.menu(), place);
+                                           }});
+  notifier_->setToolTip(tooltip_);
+  redraw();
   // No signal is bound to the watcher's name: Qt would ask the bus who owns it, and wait.
-  bus.connect({}, kPath, kInterface, "StatusNotifierHostRegistered", this, SLOT(lookForHost()));
-  watcher_ = std::make_unique<QDBusServiceWatcher>(kService, bus, QDBusServiceWatcher::WatchForRegistration);
-  connect(watcher_.get(), &QDBusServiceWatcher::serviceRegistered, this, &QtStatusItem::lookForHost);
-  lookForHost();
+  bus.connect({}, kPath, kInterface, "StatusNotifierHostRegistered", this, SLOT(hostRegistered()));
+  watchers_ = std::make_unique<QDBusServiceWatcher>(kService, bus, QDBusServiceWatcher::WatchForOwnerChange);
+  connect(watchers_.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
+          [this](const QString&, const QString&, const QString& newOwner) {
+            isTaken_ = false;
+            if (!newOwner.isEmpty()) offer();
+          });
+  offer();
 }
 
 void QtStatusItem::setTitle(const std::string& title, const std::string& tooltip) {
   count_ = QString::fromStdString(title).toLongLong();
   tooltip_ = QString::fromStdString(tooltip);
-  if (!icon_) return;
-  icon_->setToolTip(tooltip_);
+  if (!notifier_) return;
+  notifier_->setToolTip(tooltip_);
   redraw();
 }
 
-/// Qt decides once, at the first tray icon, whether there is a status area, so none is made before there is.
-void QtStatusItem::lookForHost() {
-  if (icon_) return;
-  QDBusMessage question = QDBusMessage::createMethodCall(
-      kService, kPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
-  question << kInterface << QStringLiteral("IsStatusNotifierHostRegistered");
-  question.setAutoStartService(false);
-  auto* answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
+/// By the path of the item, which watchers take for that of the caller. The other way, by the name of a
+/// service, would need a name of our own on the bus besides, and a watcher that looks for it there.
+void QtStatusItem::offer() {
+  QDBusMessage message = QDBusMessage::createMethodCall(kService, kPath, kInterface,
+                                                        QStringLiteral("RegisterStatusNotifierItem"));
+  message << QtStatusNotifier::kPath;
+  message.setAutoStartService(false);
+  auto* answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(message), this);
   connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
     answer->deleteLater();
-    const QDBusPendingReply<QDBusVariant> registered = *answer;
-    if (!icon_ && !registered.isError() && registered.value().variant().toBool()) appear();
+    isTaken_ = !answer->isError();
   });
 }
 
-void QtStatusItem::appear() {
-  icon_ = std::make_unique<QSystemTrayIcon>();
-  connect(icon_.get(), &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
-    if (reason == QSystemTrayIcon::Trigger) click();
-    // Asked for by a panel that does not show the menu itself.
-    if (reason == QSystemTrayIcon::Context) menu_->popup(QCursor::pos());
-  });
-  icon_->setContextMenu(menu_.get());
-  icon_->setToolTip(tooltip_);
-  redraw();
-  icon_->show();
+/// Some watchers take no item before there is a panel to show it.
+void QtStatusItem::hostRegistered() {
+  if (!isTaken_) offer();
 }
 
 void QtStatusItem::redraw() {
-  if (!icon_ || (drawnInk_ == ink() && drawnCount_ == count_)) return;
+  const bool isDrawn = drawnInk_ == ink() && drawnCount_ == count_;
+  if (!notifier_ || isDrawn) return;
   drawnInk_ = ink();
   drawnCount_ = count_;
-  icon_->setIcon(statusIcon(count_, drawnInk_));
+  notifier_->setIcon(statusPictures(count_, drawnInk_));
 }
 
 QColor QtStatusItem::ink() const {
   const bool dark = hasDarkPanel(qEnvironmentVariable("XDG_CURRENT_DESKTOP")) ||
                     settings_.dark().value_or(desktopLooksDark_);
   return dark ? kLightInk : kDarkInk;
-}
-
-/// Qt leaves the token that the panel gave in the environment.
-void QtStatusItem::click() {
-  const std::string token = qgetenv(kToken).toStdString();
-  qunsetenv(kToken);
-  if (actions_.click) actions_.click(token);
-}
-
-/// The actions of the menu stay while the rows keep their kinds: a panel that shows the menu from a copy can
-/// still name what was chosen.
-void QtStatusItem::fillMenu() {
-  std::vector<MenuEntry> rows = actions_.menu ? actions_.menu() : std::vector<MenuEntry>();
-  const bool sameKinds =
-      std::ranges::equal(rows, rows_, {}, &MenuEntry::isSeparator, &MenuEntry::isSeparator);
-  rows_ = std::move(rows);
-  if (!sameKinds) layOutMenu();
-  const QList<QAction*> actions = menu_->actions();
-  for (std::size_t i = 0; i < rows_.size(); ++i) {
-    if (rows_[i].isSeparator()) continue;
-    QAction* action = actions[static_cast<int>(i)];
-    action->setText(plainTitle(rows_[i].title));
-    action->setEnabled(rows_[i].action != nullptr);
-    action->setCheckable(rows_[i].on.has_value());
-    action->setChecked(rows_[i].on.value_or(false));
-  }
-}
-
-void QtStatusItem::layOutMenu() {
-  menu_->clear();
-  for (std::size_t i = 0; i < rows_.size(); ++i) {
-    QAction* action = rows_[i].isSeparator() ? menu_->addSeparator() : menu_->addAction(QString());
-    connect(action, &QAction::triggered, this, [this, i] { choose(i); });
-  }
-}
-
-void QtStatusItem::choose(std::size_t row) const {
-  const auto action = rows_[row].action;  // a copy: what it does may fill the menu anew
-  if (action) action();
 }
 
 }  // namespace brimle

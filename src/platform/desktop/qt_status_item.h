@@ -1,12 +1,13 @@
-// The StatusItem port as a StatusNotifierItem (QSystemTrayIcon) with the count painted into its icon.
+// The StatusItem port as a StatusNotifierItem of our own with the count painted into its icon.
 //
-// Whether the desktop has a status area is asked on the session bus without waiting. Where one turns up later
-// the item appears then, and again whenever its panel was started anew. The older trays that embed windows
-// are not used. The desktop tells the item's name by QCoreApplication::applicationName.
+// It offers itself to the desktop's StatusNotifierWatcher, to each that turns up, and waits for none: one
+// that never answers holds nobody up. The older trays that embed windows are not used. The desktop tells the
+// item's name by QCoreApplication::applicationName.
 #pragma once
 
 #include <QColor>
 #include <QObject>
+#include <QPoint>
 #include <memory>
 
 #include "base/signal.h"
@@ -14,46 +15,48 @@
 #include "platform/status_item.h"
 
 class QDBusServiceWatcher;
-class QMenu;
-class QSystemTrayIcon;
 
 namespace brimle {
+
+class QtDBusMenu;
+class QtStatusNotifier;
 
 class QtStatusItem : public QObject, public StatusItem {
   Q_OBJECT
 
  public:
-  /// `settings` must outlive this. `desktopLooksDark` holds where it tells no preference.
-  QtStatusItem(QtSettingsPortal& settings, bool desktopLooksDark);
+  /// Shows a menu at a place on the screen.
+  using PopUp = std::function<void(const std::vector<MenuEntry>& items, QPoint place)>;
+
+  /// `settings` must outlive this. `desktopLooksDark` holds where it tells no preference. `popUp` is for
+  /// panels that do not show the menu themselves.
+  QtStatusItem(QtSettingsPortal& settings, bool desktopLooksDark, PopUp popUp);
   ~QtStatusItem() override;
 
   void install(Actions actions) override;
-  /// A title that is no number stands for the circle alone. The rows of the menu have no submenus.
+  /// A title that is no number stands for the circle alone.
   void setTitle(const std::string& title, const std::string& tooltip) override;
 
  private slots:
-  void lookForHost();
+  void hostRegistered();
 
  private:
-  void appear();
+  void offer();
   void redraw();
   QColor ink() const;
-  void click();
-  void fillMenu();
-  void layOutMenu();
-  void choose(std::size_t row) const;
 
   QtSettingsPortal& settings_;
   const bool desktopLooksDark_;
+  const PopUp popUp_;
   Actions actions_;
   long long count_ = 0;
   QString tooltip_;
   QColor drawnInk_;  ///< of the icon that is shown
   long long drawnCount_ = 0;
-  std::vector<MenuEntry> rows_;  ///< those of the menu, as it was told last
-  std::unique_ptr<QDBusServiceWatcher> watcher_;
-  std::unique_ptr<QMenu> menu_;
-  std::unique_ptr<QSystemTrayIcon> icon_;  ///< none before there is a status area
+  bool isTaken_ = false;              ///< by the watcher that is there now
+  std::unique_ptr<QtDBusMenu> menu_;  ///< this and what follows only where there is a bus
+  std::unique_ptr<QtStatusNotifier> notifier_;
+  std::unique_ptr<QDBusServiceWatcher> watchers_;
   Subscription appearance_;
 };
 

@@ -1,6 +1,6 @@
-// The menu bar where the desktop has none of its own: one menu, opened from the title strip, by Alt or by
-// F10, with a submenu for each menu of the bar. The keys it shows beside the items are the program's
-// business, not its own.
+// The menu bar in the window, for most desktops have none of their own: one menu, opened from the title
+// strip, by Alt or by F10, with a submenu for each menu of the bar. The keys it shows beside the items are
+// the program's business, not its own.
 #pragma once
 
 #include <QPoint>

@@ -1,0 +1,46 @@
+// Shows a menu of the program's as desktops do, by com.canonical.dbusmenu: reads its rows, opens it, clicks.
+#pragma once
+
+#include <QObject>
+#include <string>
+#include <vector>
+
+#include "platform_qt/bus_client.h"
+
+namespace brimle {
+
+class MenuClient : public QObject {
+  Q_OBJECT
+
+ public:
+  QString service, path;  ///< where the menu is
+  int newLayouts = 0;     ///< how often the menu said that it has other rows
+  /// The rows whose properties the menu said are new, each as `rows` has it.
+  std::vector<std::string> newRows;
+
+  explicit MenuClient(BusClient& client);
+
+  QVariantList ask(const QString& method, const QVariantList& arguments);
+  bool isRefused(const QString& method, const QVariantList& arguments);
+
+  /// A line a row, those of submenus deeper: "-", a disabled row in brackets, a mark as "x " or "o " before
+  /// its row, and the keys behind it.
+  std::vector<std::string> rows();
+  /// The number of a row of those that were asked for last.
+  int id(std::size_t row) const { return ids_.at(row); }
+  /// Whether the menu says that it must be read again.
+  bool open(int id = 0);
+  void click(int id);
+
+ private slots:
+  void layoutUpdated() { ++newLayouts; }
+  void propertiesUpdated(const QDBusMessage& signal);
+
+ private:
+  void addRow(const QVariantList& layout, const std::string& indent, std::vector<std::string>& rows);
+
+  BusClient& client_;
+  std::vector<int> ids_;
+};
+
+}  // namespace brimle
