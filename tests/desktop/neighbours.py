@@ -54,6 +54,10 @@ class Neighbour:
         message.append(*arguments, signature=signature)
         self._bus.send_message(message)
 
+    def ask(self, name, path, interface, method, *arguments, signature):
+        """Sends a call and returns what is answered; raises where that is an error."""
+        return self._bus.call_blocking(name, path, interface, method, signature, arguments)
+
     def owner(self, name):
         """The unique name of who owns a name; nothing where nobody does."""
         return self._bus.get_name_owner(name) if self._bus.name_has_owner(name) else None

@@ -4,6 +4,8 @@ import unittest
 import hands
 from case import ADD, PROGRAM, DesktopCase, dayKey, nextKey
 from desktop import DESKTOP
+from neighbours import Neighbour, reply
+from waiting import waitUntil
 
 FOLDED = 34  # the height of the header alone, in pixels
 
@@ -45,6 +47,19 @@ class MainMenu(DesktopCase):
         self.putOnClipboard("tea\neggs\n")
         self.chooseFromMainMenu("File", "Paste Clipboard as Tasks")
         self.expectDay(today=["milk / oat", "tea", "eggs"], archive=[f"{dayKey()} bread+"])
+
+    def testIsInTheDesktopsOwnBarToo(self):
+        bar = Neighbour("com.canonical.AppMenu.Registrar", answer=reply(signature=""))
+        self.addCleanup(bar.end)
+        self.start("milk")
+        waitUntil(lambda: "RegisterWindow" in bar.calls, "the window's menus were registered")
+        menus = "org.brimle.Brimle", "/org/brimle/Brimle/MenuBar", "com.canonical.dbusmenu"
+        _, (_, _, shown) = bar.ask(*menus, "GetLayout", 0, -1, [], signature="iias")
+        titles = [menu[1]["label"] for menu in shown]
+        self.assertEqual(titles, ["Brimle", "File", "Edit", "View", "Window", "Help"])
+        rows = {item[1].get("label"): item[0] for item in shown[titles.index("File")][2]}
+        bar.ask(*menus, "Event", rows["Copy Day as Text"], "clicked", "", 0, signature="isvu")
+        self.until(lambda: self.copied().endswith("○ milk"), lambda: f"the day was copied: {self.copied()!r}")
 
     def testShowsTheShortcutsCardAsOftenAsItIsWanted(self):
         self.start()
