@@ -1,7 +1,6 @@
 // The program as a process: its start, its memory and its rest, against the smallest window of the same
 // parts.
 #include <filesystem>
-#include <optional>
 #include <thread>
 
 #include "child_window.h"

@@ -1,6 +1,5 @@
 #include "sample_data.h"
 
-#include <array>
 #include <chrono>
 #include <map>
 #include <random>

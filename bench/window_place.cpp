@@ -50,7 +50,7 @@ WindowPlace::WindowPlace(int years)
       sel_(place_.time),
       content_(place_.store, place_.time),
       archive_(place_.store, sel_, ui_, place_.time),
-      main_({place_.store, content_, archive_, ui_, sel_, place_.time, todayFocusAdd_}, pasteboard_) {
+      main_({place_.store, content_, archive_, ui_, sel_, place_.time, todayFocusAdd_, links_}, pasteboard_) {
   main_.orderFront();
   todayFocusAdd_.notify();
   window_ = qobject_cast<QQuickWindow*>(QGuiApplication::topLevelWindows().constLast());

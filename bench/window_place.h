@@ -6,9 +6,11 @@
 
 #include <chrono>
 
+#include "platform/simulated/journal.h"
 #include "platform/simulated/memory_files.h"
 #include "platform/simulated/simulated_pasteboard.h"
 #include "platform/simulated/simulated_preferences_store.h"
+#include "platform/simulated/simulated_services.h"
 #include "views/qt/main_window.h"
 #include "workplace.h"
 
@@ -56,6 +58,8 @@ class WindowPlace {
   Workplace place_;
   SimulatedPreferencesStore preferences_;
   SimulatedPasteboard pasteboard_;
+  Journal journal_;
+  SimulatedLinkOpener links_{journal_};
   UIState ui_{preferences_, {}};
   SelectionModel sel_;
   Signal<> todayFocusAdd_;

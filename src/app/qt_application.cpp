@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <algorithm>
 
 #include "i18n/i18n.h"
 #include "views/qt/convert.h"
@@ -16,6 +17,12 @@ namespace brimle {
 namespace {
 
 constexpr int kIconSize = 64;  // of the about panel, in points
+
+void colour(QLabel* label, const QColor& ink) {
+  QPalette palette = label->palette();
+  palette.setColor(QPalette::WindowText, ink);
+  label->setPalette(palette);
+}
 
 QLabel* centred(const QString& text, double size, QFont::Weight weight = QFont::Normal) {
   auto* label = new QLabel(text);
@@ -79,10 +86,10 @@ void QtApplication::showAbout(const Credits& credits) {
     auto* icon = new QLabel;
     icon->setPixmap(QApplication::windowIcon().pixmap(kIconSize));
     icon->setAlignment(Qt::AlignHCenter);
-    auto* words = centred(toQt(credits.text), credits.size);
-    QPalette palette = words->palette();
-    palette.setColor(QPalette::WindowText, theme_.secondary());
-    words->setPalette(palette);
+    const double scale = theme_.textScale();
+    auto* words = centred(toQt(credits.text), credits.size * scale);
+    colour(words, theme_.secondary());
+    QObject::connect(&theme_, &Theme::changed, words, [this, words] { colour(words, theme_.secondary()); });
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     QPushButton* close = buttons->button(QDialogButtonBox::Close);
     close->setText(toQt(I18n::t("Close")));
@@ -92,8 +99,8 @@ void QtApplication::showAbout(const Credits& credits) {
     column->setContentsMargins(48, 24, 48, 18);
     column->setSpacing(6);
     column->addWidget(icon);
-    column->addWidget(centred(QStringLiteral("Brimle"), 17, QFont::DemiBold));
-    column->addWidget(centred(QApplication::applicationVersion(), 11));
+    column->addWidget(centred(QStringLiteral("Brimle"), 17 * scale, QFont::DemiBold));
+    column->addWidget(centred(QApplication::applicationVersion(), 11 * scale));
     column->addWidget(words);
     column->addSpacing(8);
     column->addWidget(buttons);

@@ -1,6 +1,5 @@
 #include "model/folded_entries.h"
 
-#include <algorithm>
 #include <cstring>
 
 #include "base/text.h"

@@ -1,5 +1,6 @@
 // The texts of archived entries in the form that a search compares: composed, case-folded, in one run of
-// bytes. Built once for a day and shared as long as the day does not change; finding is a search for bytes.
+// bytes. Built once for a block of days and shared as long as the block does not change; finding is a search
+// for bytes.
 #pragma once
 
 #include <cstdint>

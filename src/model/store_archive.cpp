@@ -7,7 +7,7 @@
 namespace brimle {
 namespace {
 
-/// A slice of preparing the search: some ten blocks fold in well under a millisecond.
+/// A slice of preparing the search, in blocks: they fold in well under a millisecond.
 constexpr std::size_t kPreparedAtOnce = 8;
 
 }  // namespace

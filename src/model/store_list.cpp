@@ -3,8 +3,8 @@
 #include <unordered_set>
 #include <utility>
 
+#include "base/move_element.h"
 #include "model/store.h"
-#include "model/visibility.h"
 
 namespace brimle {
 namespace {
@@ -15,14 +15,8 @@ Tasks::iterator locate(Tasks& tasks, const Uuid& id) {
   return std::find_if(tasks.begin(), tasks.end(), [&](const TodoItem& task) { return task.id == id; });
 }
 
-/// Moves one element to an index, the elements between shifting by one.
-void moveElement(Tasks& tasks, std::ptrdiff_t from, std::ptrdiff_t to) {
-  const auto begin = tasks.begin();
-  if (from < to) {
-    std::rotate(begin + from, begin + from + 1, begin + to + 1);
-  } else {
-    std::rotate(begin + to, begin + from, begin + from + 1);
-  }
+std::size_t indexIn(const Tasks& tasks, Tasks::const_iterator task) {
+  return static_cast<std::size_t>(task - tasks.begin());
 }
 
 /// Calls `change` on every task among the ids; tells whether there was one.
@@ -101,7 +95,7 @@ void Store::moveItem(const Uuid& id, const Uuid& target) {
   const auto from = locate(list, id);
   const auto to = locate(list, target);
   if (from == list.end() || to == list.end() || from == to) return;
-  moveElement(list, from - list.begin(), to - list.begin());
+  moveElement(list, indexIn(list, from), indexIn(list, to));
   setItems(std::move(list));
 }
 
@@ -109,7 +103,7 @@ void Store::moveToEnd(const Uuid& id) {
   Tasks list = items();
   const auto from = locate(list, id);
   if (from == list.end()) return;
-  moveElement(list, from - list.begin(), std::ssize(list) - 1);
+  moveElement(list, indexIn(list, from), list.size() - 1);
   setItems(std::move(list));
 }
 

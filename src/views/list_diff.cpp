@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <unordered_set>
 
+#include "base/move_element.h"
+
 namespace brimle {
 namespace {
 
@@ -33,13 +35,7 @@ void moveStaying(Rows& rows, const Rows& after, std::vector<RowChange>& changes)
                [&](const Uuid& id) { return known.contains(id); });
   const auto move = [&](std::size_t from, std::size_t to) {
     changes.push_back({Kind::move, from, 1, to});
-    const auto begin = rows.begin();
-    const auto at = [&](std::size_t row) { return begin + static_cast<std::ptrdiff_t>(row); };
-    if (from < to) {
-      std::rotate(at(from), at(from + 1), at(to + 1));
-    } else {
-      std::rotate(at(to), at(from), at(from + 1));
-    }
+    moveElement(rows, from, to);
   };
   for (std::size_t row = 0; row < order.size(); ++row) {
     while (rows[row] != order[row]) {

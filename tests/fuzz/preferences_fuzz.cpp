@@ -4,7 +4,6 @@
 // predecessor's, $VARIABLE=value is in the environment, and # makes the predecessor's settings unreadable.
 #include <algorithm>
 #include <cmath>
-#include <map>
 
 #include "app/core/window_frame.h"
 #include "app/core/window_rules.h"

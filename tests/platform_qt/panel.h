@@ -5,7 +5,6 @@
 #include <QDBusContext>
 #include <QImage>
 #include <string>
-#include <vector>
 
 #include "platform_qt/bus_client.h"
 #include "platform_qt/menu_client.h"

@@ -1,7 +1,7 @@
 // The translated texts: two arrays for each of the eleven languages beside English, one file a language.
 //
 // Every array lists the same keys in the same order: kGerman and its fellows the 97 texts of the interface,
-// kGermanDesktop and its fellows the 26 texts that our desktop adds. Constant data; lookup is not done here.
+// kGermanDesktop and its fellows the texts that our desktop adds. Constant data; lookup is not done here.
 // Example of a row: {"Yesterday", "Gestern"}.
 #pragma once
 

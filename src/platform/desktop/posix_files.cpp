@@ -185,9 +185,9 @@ bool PosixFiles::replace(const Path& path, std::span<const std::string_view> pie
   const bool replaces = retried([&] { return calls_.stat(target->c_str(), &old); }) == 0;
   if (replaces ? !S_ISREG(old.st_mode) : errno != ENOENT) return false;
 
-  // From here on nothing needs memory, so that nothing is left half done.
   const Path temporary = temporaryFor(*target);
   std::vector<iovec> bytes = vectorOf(pieces);
+  // From here on nothing needs memory, so that nothing is left half done.
   calls_.unlink(temporary.c_str());  // one that cannot be removed makes the exclusive open fail
   const std::optional<mode_t> mode = replaces ? std::optional(old.st_mode & kModeBits) : std::nullopt;
   if (write(temporary, std::move(bytes), mode) && calls_.rename(temporary.c_str(), target->c_str()) == 0)

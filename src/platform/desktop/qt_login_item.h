@@ -3,7 +3,6 @@
 // is read anew whenever the status is asked for. Nothing else is written.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 

@@ -5,6 +5,7 @@
 #include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 #include <QDBusVariant>
 #include <algorithm>
 
@@ -36,15 +37,29 @@ QtSettingsPortal::QtSettingsPortal() {
   qDBusRegisterMetaType<Groups>();
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return;
-  bus.connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
+  // Not bound to the portal's name: Qt would ask the bus who owns it, and wait. Who sent a signal is looked
+  // at when it comes.
+  bus.connect({}, kPath, kInterface, QStringLiteral("SettingChanged"), this,
               SLOT(settingChanged(QDBusMessage)));
+  portals_ = std::make_unique<QDBusServiceWatcher>(kService, bus, QDBusServiceWatcher::WatchForOwnerChange);
+  connect(portals_.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
+          [this](const QString&, const QString&, const QString& newOwner) {
+            if (!newOwner.isEmpty()) readAll();
+          });
+  readAll();
+}
+
+QtSettingsPortal::~QtSettingsPortal() = default;
+
+void QtSettingsPortal::readAll() {
   QDBusMessage request =
       QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("ReadAll"));
   request << QStringList{kAppearance, kGnome, kKde};
-  auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(request), this);
+  auto* watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(request), this);
   connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
     watcher->deleteLater();
     const QDBusPendingReply<Groups> reply = *watcher;
+    portal_ = reply.reply().service();
     if (reply.isError()) return;
     const Groups groups = reply.value();
     for (auto group = groups.begin(); group != groups.end(); ++group) {
@@ -57,6 +72,7 @@ QtSettingsPortal::QtSettingsPortal() {
 }
 
 void QtSettingsPortal::settingChanged(const QDBusMessage& signal) {
+  if (signal.service() != portal_) return;
   const QVariantList arguments = signal.arguments();
   if (arguments.size() != 3) return;
   values_[{arguments[0].toString(), arguments[1].toString()}] = unwrapped(arguments[2]);

@@ -1,6 +1,6 @@
-// What the desktop's user asked of all programs: a dark appearance, more contrast, less motion. Read from the
-// Settings portal (org.freedesktop.portal.Settings) without waiting for it, and followed live. Where there is
-// no portal nothing is asked for.
+// What the desktop's user asked of all programs: a dark appearance, more contrast, less motion, larger text.
+// Read from the Settings portal (org.freedesktop.portal.Settings) without waiting for it, and followed live.
+// Where there is no portal nothing is asked for.
 #pragma once
 
 #include <QDBusMessage>
@@ -8,11 +8,13 @@
 #include <QVariant>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
-#include <string>
 #include <utility>
 
 #include "base/signal.h"
+
+class QDBusServiceWatcher;
 
 namespace brimle {
 
@@ -22,6 +24,7 @@ class QtSettingsPortal : public QObject {
  public:
   /// Asks the portal; the answer arrives later.
   QtSettingsPortal();
+  ~QtSettingsPortal() override;
 
   /// Whether dark is preferred to light; nothing where there is no preference.
   std::optional<bool> dark() const;
@@ -38,9 +41,12 @@ class QtSettingsPortal : public QObject {
   void settingChanged(const QDBusMessage& signal);
 
  private:
+  void readAll();
   QVariant value(const char* group, const char* key) const;
 
   std::map<std::pair<QString, QString>, QVariant> values_;
+  QString portal_;  ///< who answered last, by the name that nobody else has
+  std::unique_ptr<QDBusServiceWatcher> portals_;
   Signal<> changed_;
 };
 

@@ -21,11 +21,10 @@ QtSleepWatch::QtSleepWatch(std::function<void()> onWake) : onWake_(std::move(onW
 }
 
 /// On a thread of its own, for meeting a bus is waiting until it answers. One that hangs is not met at all:
-/// Qt would serve no other bus meanwhile, and hold up whoever asks it to.
+/// Qt would serve no other bus meanwhile, and hold up whoever asks it to. The environment is this thread's.
 void QtSleepWatch::meetBus() {
-  QThread* meeting = QThread::create([] {
-    if (!busHangs(systemBusAddresses(), kPatience))
-      QDBusConnection::connectToBus(QDBusConnection::SystemBus, kBus);
+  QThread* meeting = QThread::create([addresses = systemBusAddresses()] {
+    if (!busHangs(addresses, kPatience)) QDBusConnection::connectToBus(QDBusConnection::SystemBus, kBus);
   });
   connect(meeting, &QThread::finished, this, &QtSleepWatch::listen);
   connect(meeting, &QThread::finished, meeting, &QThread::deleteLater);

@@ -27,7 +27,9 @@ ArchiveScreen::ArchiveScreen(Store& store, SelectionModel& sel, UIState& ui, Arc
     const bool turned = std::exchange(shown_, ui_.showingArchive()) != ui_.showingArchive();
     if (turned && shown_) store_.prepareSearch();
     if (turned && !shown_) rows_.clear();
+    const bool spoken = std::exchange(language_, ui_.language()) != ui_.language();
     if (shown_ && (turned || searched)) refresh();
+    if (shown_ && spoken) rows_.touch();
     emit changed();
   }));
 }

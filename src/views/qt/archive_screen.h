@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
+#include <QPointF>
 
 #include "control/row_commands.h"
 #include "views/archive_view.h"
@@ -74,6 +75,7 @@ class ArchiveScreen : public brimle::RowScreen {
   TimelineModel rows_;
   bool shown_ = false;
   std::string query_;
+  std::string language_;  ///< the setting for which the rows were last told
   QString focusedKey_;
   std::vector<Subscription> subscriptions_;
 };

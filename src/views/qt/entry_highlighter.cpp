@@ -11,7 +11,10 @@ void EntryHighlighter::setField(QQuickTextDocument* field) {
 }
 
 void EntryHighlighter::setToday(Today* today) {
+  if (today_) today_->disconnect(this);
   today_ = today;
+  // The language, the day: what is a date depends on both.
+  if (today_) connect(today_, &Today::changed, this, &EntryHighlighter::rehighlight);
   rehighlight();
   emit changed();
 }

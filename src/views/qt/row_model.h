@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/move_element.h"
 #include "views/list_diff.h"
 
 namespace brimle {
@@ -70,11 +71,7 @@ class RowModel : public QAbstractListModel {
   void move(const RowChange& change, std::vector<Row>& rows) {
     const bool down = change.at < change.to;
     beginMoveRows({}, first(change), first(change), {}, static_cast<int>(change.to) + (down ? 1 : 0));
-    if (down) {
-      std::rotate(at(rows, change.at), at(rows, change.at + 1), at(rows, change.to + 1));
-    } else {
-      std::rotate(at(rows, change.to), at(rows, change.at), at(rows, change.at + 1));
-    }
+    moveElement(rows, change.at, change.to);
     endMoveRows();
   }
 

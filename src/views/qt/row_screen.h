@@ -5,7 +5,6 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
-#include <QPointF>
 
 #include "control/selection_model.h"
 

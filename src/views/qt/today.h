@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
+#include <QPointF>
 
 #include "base/limits.h"
 #include "base/signal.h"
