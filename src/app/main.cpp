@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <utility>
 
 #include "app/core/app_delegate.h"
 #include "app/qt_application.h"
@@ -96,6 +97,7 @@ int run(int argc, char** argv) {
 
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
   QApplication application(argc, argv);
+  MainWindow::Engine engine = MainWindow::prepareEngine();
   QApplication::setDesktopFileName(QStringLiteral("org.brimle.Brimle"));
   QApplication::setQuitOnLastWindowClosed(false);
 
@@ -137,7 +139,8 @@ int run(int argc, char** argv) {
   Signal<> todayFocusAdd;
   ContentView content(store, time);
   ArchiveView archive(store, sel, ui, time);
-  MainWindow window({store, content, archive, ui, sel, time, todayFocusAdd, links}, pasteboard);
+  MainWindow window({store, content, archive, ui, sel, time, todayFocusAdd, links}, pasteboard,
+                    std::move(engine));
   QtApplication desktopApplication(window.theme(), settings, desktopLooksDark);
   MenuHosts menus({&window.menus(), &globalMenu});
   AppDelegate app({time, desktop, preferences, pasteboard, notifications, desktopApplication, window, menus,

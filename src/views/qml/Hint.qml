@@ -22,31 +22,36 @@ Item {
         id: hover
         enabled: hint.enabled && hint.text !== ""
         blocking: hint.alone
-        onHoveredChanged: if (!hovered) box.active = false
     }
 
-    Timer {
-        id: delay
-        interval: 700
-        running: hover.hovered
-        onTriggered: box.active = true
-    }
-    // Whoever acts has read it. Listened for under the pointer only: most tooltips never show.
+    // Made under the pointer only: most tooltips never show.
     Loader {
         active: hover.hovered
-        sourceComponent: Connections {
-            target: Theme
-            function onActed() {
-                delay.stop()
-                box.active = false
+        sourceComponent: Item {
+            Timer {
+                id: delay
+                interval: 700
+                running: true
+                onTriggered: box.active = true
+            }
+            // Whoever acts has read it.
+            Connections {
+                target: Theme
+                function onActed() {
+                    delay.stop()
+                    box.active = false
+                }
+            }
+            Loader {
+                id: box
+                active: false
+                sourceComponent: hint.box
             }
         }
     }
 
-    Loader {
-        id: box
-        active: false
-        sourceComponent: Window {
+    readonly property Component box: Component {
+        Window {
             id: tip
             readonly property point above: hint.mapToGlobal(0, -4)
             readonly property point below: hint.mapToGlobal(0, hint.height + 4)

@@ -4,9 +4,11 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QKeyEvent>
+#include <QQmlComponent>
 #include <QQuickItem>
 #include <QScreen>
 #include <algorithm>
+#include <utility>
 
 #include "base/limits.h"
 #include "views/qt/convert.h"
@@ -22,13 +24,23 @@ constexpr int kResizing = 200;
 /// Of the window while it is not folded, in points.
 constexpr int kLeastHeight = 200;
 
+QUrl windowFile() {
+  return QUrl(QStringLiteral("qrc:/qt/qml/Brimle/MainWindow.qml"));
+}
+
 Rect rectOf(const QRect& rect) {
   return {double(rect.x()), double(rect.y()), double(rect.width()), double(rect.height())};
 }
 
 }  // namespace
 
-MainWindow::MainWindow(Today::Parts parts, Pasteboard& pasteboard)
+MainWindow::Engine MainWindow::prepareEngine() {
+  auto engine = std::make_unique<QQmlApplicationEngine>();
+  new QQmlComponent(engine.get(), windowFile(), QQmlComponent::Asynchronous, engine.get());
+  return engine;
+}
+
+MainWindow::MainWindow(Today::Parts parts, Pasteboard& pasteboard, Engine engine)
     : store_(parts.store),
       keys_(parts.store, parts.sel, parts.ui, pasteboard, parts.todayFocusAdd),
       clickAway_(parts.sel, parts.ui, parts.time),
@@ -36,12 +48,13 @@ MainWindow::MainWindow(Today::Parts parts, Pasteboard& pasteboard)
       texts_(parts.ui),
       today_(parts),
       archive_(parts.store, parts.sel, parts.ui, parts.archive, parts.todayFocusAdd),
-      shortcuts_(engine_, parts.ui, parts.store.entryContext().region) {
-  engine_.setInitialProperties({{QStringLiteral("today"), QVariant::fromValue(&today_)},
-                                {QStringLiteral("archive"), QVariant::fromValue(&archive_)}});
-  engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Brimle/MainWindow.qml")));
-  if (engine_.rootObjects().isEmpty()) qFatal("the window could not be made");
-  window_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().constFirst());
+      engine_(std::move(engine)),
+      shortcuts_(*engine_, parts.ui, parts.store.entryContext().region) {
+  engine_->setInitialProperties({{QStringLiteral("today"), QVariant::fromValue(&today_)},
+                                 {QStringLiteral("archive"), QVariant::fromValue(&archive_)}});
+  engine_->load(windowFile());
+  if (engine_->rootObjects().isEmpty()) qFatal("the window could not be made");
+  window_ = qobject_cast<QQuickWindow*>(engine_->rootObjects().constFirst());
   window_->installEventFilter(this);
   connect(&today_, &Today::menuRequested, this, &MainWindow::openMenu);
   connect(&theme_, &Theme::changed, this, [this] { QApplication::setPalette(theme_.palette()); });

@@ -6,6 +6,7 @@
 #include <QQuickWindow>
 #include <QVariantAnimation>
 #include <functional>
+#include <memory>
 
 #include "control/alt_tap.h"
 #include "control/click_away.h"
@@ -36,8 +37,13 @@ class MainWindow : public QObject, public AppWindow {
     std::function<void()> closed;
   };
 
+  using Engine = std::unique_ptr<QQmlApplicationEngine>;
+  /// An engine that loads the window's types from now on, on a thread of its own: what else is to be done
+  /// before there is a window is done meanwhile.
+  static Engine prepareEngine();
+
   /// All that the parts refer to, and the clipboard, must outlive the window.
-  MainWindow(Today::Parts parts, Pasteboard& pasteboard);
+  MainWindow(Today::Parts parts, Pasteboard& pasteboard, Engine engine = prepareEngine());
   ~MainWindow() override;
 
   Theme& theme() { return theme_; }
@@ -79,7 +85,7 @@ class MainWindow : public QObject, public AppWindow {
   Texts texts_;
   Today today_;
   ArchiveScreen archive_;
-  QQmlApplicationEngine engine_;
+  const Engine engine_;
   ShortcutsCard shortcuts_;
   MenuButton menuButton_;
   QQuickWindow* window_ = nullptr;
