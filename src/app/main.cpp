@@ -16,6 +16,7 @@
 #include "i18n/region.h"
 #include "model/data_folder.h"
 #include "model/store.h"
+#include "platform/application_id.h"
 #include "platform/build_settings.h"
 #include "platform/desktop/posix_bus_probe.h"
 #include "platform/desktop/posix_files.h"
@@ -98,7 +99,7 @@ int run(int argc, char** argv) {
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
   QApplication application(argc, argv);
   MainWindow::Engine engine = MainWindow::prepareEngine();
-  QApplication::setDesktopFileName(QStringLiteral("org.brimle.Brimle"));
+  QApplication::setDesktopFileName(QLatin1String(kApplicationId));
   QApplication::setQuitOnLastWindowClosed(false);
 
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/qt/qml/Brimle/org.brimle.Brimle.svg")));

@@ -8,16 +8,10 @@
 #include <string>
 
 #include "i18n/skeleton.h"
+#include "platform/system_locale.h"
 
 namespace brimle {
 namespace {
-
-/// "en_US.UTF-8@euro" as the tag "en-US".
-std::string tagOf(std::string_view localeName) {
-  std::string tag(localeName.substr(0, localeName.find_first_of(".@")));
-  std::ranges::replace(tag, '_', '-');
-  return tag;
-}
 
 /// Whether ICU has data for the locale's language. For any other it would answer with those of the process's
 /// own locale.
@@ -60,7 +54,7 @@ bool Region::isWeekend(Day day) const {
 Region regionOf(std::string_view localeName) {
   Region region;
   UErrorCode status = U_ZERO_ERROR;
-  icu::Locale locale = icu::Locale::forLanguageTag(tagOf(localeName), status);
+  icu::Locale locale = icu::Locale::forLanguageTag(languageTag(localeName), status);
   locale.canonicalize(status);           // "tl_PH" is a name in use; the data are under "fil_PH"
   if (U_FAILURE(status)) return region;  // "C", for one, is no language tag
   region.monthFirst = writesMonthFirst(locale);

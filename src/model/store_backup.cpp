@@ -10,13 +10,9 @@ namespace {
 constexpr std::size_t kKeptBackups = 7;
 constexpr std::string_view kPrefix = "today-", kUnreadablePrefix = "unreadable-";
 
-bool writeWhole(Files& files, const Path& path, std::string_view bytes) {
-  return files.replace(path, std::span(&bytes, 1));
-}
-
 bool copy(Files& files, const Path& from, const Path& to) {
   const auto bytes = files.read(from);
-  return bytes && writeWhole(files, to, *bytes);
+  return bytes && files.replace(to, {{*bytes}});
 }
 
 /// Removes all but the greatest names, which are the newest days.
@@ -81,7 +77,7 @@ Path Store::unreadablePath() const {
 /// Keeps the bytes of a day file that is no document, where today's backup does not hold them already. Tells
 /// whether a backup holds them now.
 bool Store::keepUnreadable(const std::string& bytes) {
-  return holdsCopyOf(files_, folder_ / "Backups", bytes) || writeWhole(files_, unreadablePath(), bytes);
+  return holdsCopyOf(files_, folder_ / "Backups", bytes) || files_.replace(unreadablePath(), {{bytes}});
 }
 
 /// Before a save over bytes that no backup holds (a day file that could not be read or copied, or that came

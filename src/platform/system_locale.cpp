@@ -14,16 +14,20 @@ std::string firstOf(const Environment& environment, std::initializer_list<const 
   return {};
 }
 
-/// "zh_TW.UTF-8@radical" as "zh-TW"; nothing for the locales without a language.
-std::optional<std::string> tagOf(std::string_view name) {
-  name = name.substr(0, name.find_first_of(".@"));
-  if (name.empty() || name == "C" || name == "POSIX") return std::nullopt;
-  std::string tag(name);
-  std::replace(tag.begin(), tag.end(), '_', '-');
+/// Nothing for the locales without a language.
+std::optional<std::string> tagOf(std::string_view localeName) {
+  std::string tag = languageTag(localeName);
+  if (tag.empty() || tag == "C" || tag == "POSIX") return std::nullopt;
   return tag;
 }
 
 }  // namespace
+
+std::string languageTag(std::string_view localeName) {
+  std::string tag(localeName.substr(0, localeName.find_first_of(".@")));
+  std::ranges::replace(tag, '_', '-');
+  return tag;
+}
 
 SystemLocale systemLocale(const Environment& environment) {
   SystemLocale locale;

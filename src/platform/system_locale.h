@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace brimle {
@@ -17,6 +18,9 @@ struct SystemLocale {
 };
 
 using Environment = std::function<std::optional<std::string>(const char* variable)>;
+
+/// "zh_TW.UTF-8@radical" as "zh-TW".
+std::string languageTag(std::string_view localeName);
 
 SystemLocale systemLocale(const Environment& environment);
 

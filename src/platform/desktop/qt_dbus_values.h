@@ -1,5 +1,5 @@
-// What goes over the bus in the protocols of status items and menus, beyond what Qt knows: structures with
-// the operators that write and read them.
+// What goes over the bus in the protocols of status items, menus and portals, beyond what Qt knows:
+// structures with the operators that write and read them.
 //
 // Slots and signals must name these types with their namespace, by which Qt looks for them.
 #pragma once

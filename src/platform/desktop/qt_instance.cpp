@@ -9,10 +9,12 @@
 #include <QEventLoop>
 #include <QTimer>
 
+#include "platform/application_id.h"
+
 namespace brimle {
 namespace {
 
-constexpr auto kService = "org.brimle.Brimle";
+constexpr auto kService = kApplicationId;
 constexpr auto kPath = "/org/brimle/Brimle";
 constexpr auto kInterface = "org.freedesktop.Application";
 /// How long an instance that holds the lock may take until it is on the bus.

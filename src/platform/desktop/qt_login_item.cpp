@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/application_id.h"
 #include "platform/desktop_entry.h"
 
 namespace brimle {
@@ -67,7 +68,7 @@ LoginItem::Status QtLoginItem::status() const {
 bool QtLoginItem::add() {
   std::string entry = named(files_.read(own_).value_or(""));
   if (!startsProgram(entry)) entry = withEntryValue(entry, "Exec", commandOf(program_));
-  entry = withEntryValue(entry, "Icon", "org.brimle.Brimle");
+  entry = withEntryValue(entry, "Icon", kApplicationId);
   entry = withEntryValue(entry, kHidden, std::nullopt);
   return write(withEntryValue(entry, kGnomeEnabled, std::nullopt));
 }
@@ -89,8 +90,7 @@ bool QtLoginItem::startsProgram(const std::string& entry) const {
 /// An entry is nobody's secret: it has the mode that its kind has everywhere.
 bool QtLoginItem::write(const std::string& entry) {
   const bool isNew = !files_.exists(own_);
-  const std::string_view text = entry;
-  if (!files_.createFolders(own_.parent_path()) || !files_.replace(own_, {&text, 1})) return false;
+  if (!files_.createFolders(own_.parent_path()) || !files_.replace(own_, {{entry}})) return false;
   if (isNew)
     QFile::setPermissions(QString::fromStdString(own_.string()),
                           QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);

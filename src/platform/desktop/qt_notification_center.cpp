@@ -7,6 +7,8 @@
 #include <QDBusServiceWatcher>
 #include <algorithm>
 
+#include "platform/application_id.h"
+
 namespace brimle {
 namespace {
 
@@ -14,7 +16,6 @@ constexpr auto kService = "org.freedesktop.Notifications";
 constexpr auto kPath = "/org/freedesktop/Notifications";
 constexpr auto kInterface = "org.freedesktop.Notifications";
 constexpr auto kProgram = "Brimle";
-constexpr auto kApplicationId = "org.brimle.Brimle";
 /// The action that stands for a click on the notification itself.
 constexpr auto kClick = "default";
 constexpr int kServerDecides = -1;  ///< how long a notification stays

@@ -11,24 +11,11 @@
 #include <utility>
 
 #include "i18n/i18n.h"
+#include "platform/application_id.h"
 
 namespace brimle {
 
 using PortalShortcuts = std::vector<PortalShortcut>;
-
-static QDBusArgument& operator<<(QDBusArgument& argument, const PortalShortcut& shortcut) {
-  argument.beginStructure();
-  argument << shortcut.id << shortcut.details;
-  argument.endStructure();
-  return argument;
-}
-
-static const QDBusArgument& operator>>(const QDBusArgument& argument, PortalShortcut& shortcut) {
-  argument.beginStructure();
-  argument >> shortcut.id >> shortcut.details;
-  argument.endStructure();
-  return argument;
-}
 
 namespace {
 
@@ -37,7 +24,6 @@ const auto kBus = QStringLiteral("brimle-shortcuts");
 constexpr auto kService = "org.freedesktop.portal.Desktop";
 constexpr auto kPath = "/org/freedesktop/portal/desktop";
 constexpr auto kInterface = "org.freedesktop.portal.GlobalShortcuts";
-constexpr auto kApplicationId = "org.brimle.Brimle";
 
 constexpr auto kShortcut = "new-task";
 constexpr auto kTrigger = "CTRL+ALT+t";  // of the shortcuts specification

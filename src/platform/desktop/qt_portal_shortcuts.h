@@ -15,6 +15,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/desktop/qt_dbus_values.h"
 #include "platform/hot_key.h"
 #include "platform/preferences_store.h"
 
@@ -26,6 +27,7 @@ namespace brimle {
 struct PortalShortcut {
   QString id;
   QVariantMap details;
+  auto fields() { return std::tie(id, details); }
 };
 
 class QtPortalShortcuts : public QObject, public HotKey {

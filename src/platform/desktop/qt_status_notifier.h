@@ -10,6 +10,7 @@
 #include <QPoint>
 #include <functional>
 
+#include "platform/application_id.h"
 #include "platform/desktop/qt_dbus_values.h"
 
 namespace brimle {
@@ -45,7 +46,7 @@ class QtStatusNotifier : public QObject {
   void setToolTip(const QString& text);
 
   QString category() const { return QStringLiteral("ApplicationStatus"); }
-  QString id() const { return QStringLiteral("org.brimle.Brimle"); }
+  QString id() const { return QString::fromLatin1(kApplicationId); }
   QString title() const;
   QString status() const { return QStringLiteral("Active"); }
   int windowId() const { return 0; }       // the item belongs to no one window

@@ -18,13 +18,8 @@ void MemoryFiles::put(const Path& path, std::string bytes) {
 }
 
 int MemoryFiles::replaces(const Path& path) const {
-  const auto found = written_.find(path);
-  return found == written_.end() ? 0 : found->second.times;
-}
-
-std::string MemoryFiles::lastWritten(const Path& path) const {
-  const auto found = written_.find(path);
-  return found == written_.end() ? std::string() : found->second.latest;
+  const auto found = replaces_.find(path);
+  return found == replaces_.end() ? 0 : found->second;
 }
 
 bool MemoryFiles::exists(const Path& path) const {
@@ -66,14 +61,11 @@ bool MemoryFiles::remove(const Path& path) {
 }
 
 bool MemoryFiles::replace(const Path& path, std::span<const std::string_view> pieces) {
-  const bool fails = failNextReplaces > 0 && failNextReplaces-- > 0;
-  if (fails || diskFull || unavailable) return false;
+  if (diskFull || unavailable) return false;
   if (folders_.contains(path) || !folders_.contains(path.parent_path())) return false;
   std::string bytes;
   for (const std::string_view piece : pieces) bytes += piece;
-  Written& written = written_[path];
-  ++written.times;
-  written.latest = bytes;
+  ++replaces_[path];
   files_[path] = std::move(bytes);
   return true;
 }

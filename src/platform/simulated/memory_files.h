@@ -17,15 +17,11 @@ class MemoryFiles : public Files {
   bool diskFull = false;
   /// Every operation fails, as on a device that is gone.
   bool unavailable = false;
-  /// How many replaces from now on fail.
-  int failNextReplaces = 0;
 
   /// Puts a file there, with its folders, whatever the switches say; not counted.
   void put(const Path& path, std::string bytes);
   /// How many replaces of a path were done.
   int replaces(const Path& path) const;
-  /// What the latest of them wrote, wherever it is now; empty where there was none.
-  std::string lastWritten(const Path& path) const;
 
   bool exists(const Path& path) const override;
   std::optional<std::string> read(const Path& path) const override;
@@ -39,11 +35,6 @@ class MemoryFiles : public Files {
   void removeLeftoversIn(const Path&, std::string_view) override {}
 
  private:
-  struct Written {
-    int times = 0;
-    std::string latest;
-  };
-
   bool makeFolders(const Path& folder);
   bool isEmpty(const Path& folder) const;
   bool renameFile(const Path& from, const Path& to);
@@ -51,7 +42,7 @@ class MemoryFiles : public Files {
 
   std::map<Path, std::string> files_;
   std::set<Path> folders_{"/"};
-  std::map<Path, Written> written_;
+  std::map<Path, int> replaces_;  ///< how many were done
 };
 
 }  // namespace brimle

@@ -15,21 +15,14 @@ class SimulatedAppWindow : public AppWindow {
 
   Rect at{100, 50, 300, 400};
   std::vector<Rect> visibleAreas{{0, 30, 1920, 1050}};
-  bool visible = false;
   /// What the field that has the keyboard takes; empty where none has it.
   std::vector<EditCommand> fieldTakes;
 
   Rect frame() const override { return at; }
   void setFrame(const Rect& frame) override { at = frame; }
   std::vector<Rect> screens() const override { return visibleAreas; }
-  void orderFront() override {
-    visible = true;
-    journal_.emplace_back("window in front");
-  }
-  void minimise() override {
-    visible = false;
-    journal_.emplace_back("window minimised");
-  }
+  void orderFront() override { journal_.emplace_back("window in front"); }
+  void minimise() override { journal_.emplace_back("window minimised"); }
   void refreshPaper() override { journal_.emplace_back("fresh paper"); }
   bool edit(EditCommand command) override {
     if (std::ranges::find(fieldTakes, command) == fieldTakes.end()) return false;
