@@ -5,7 +5,11 @@
 #include <QClipboard>
 #include <QMenu>
 #include <QQuickItem>
+#include <QQuickTextDocument>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextLayout>
 
 #include "app/app_fixture.h"
 #include "i18n/dates.h"
@@ -289,6 +293,22 @@ TEST_F(MainWindowTest, FollowsTheLanguageOfTheSettings) {
     EXPECT_EQ(names(QAccessible::Heading, 1), dateLine(time.today()) + " ");
     EXPECT_EQ(names(QAccessible::EditableText, 1), I18n::t("Add a task") + " ");
   }
+}
+
+TEST_F(MainWindowTest, FollowsTheLanguageInAnArchiveThatIsShownAndInADraft) {
+  const auto colours = [this] {
+    const auto* document = field()->property("textDocument").value<QQuickTextDocument*>()->textDocument();
+    return document->firstBlock().layout()->formats().size();
+  };
+  type("a >3 mai");  // no day in English
+  EXPECT_EQ(colours(), 0);
+  ui.setLanguage("de");
+  EXPECT_EQ(colours(), 1);
+
+  ui.setShowingArchive(true);
+  items(QAccessible::StaticText, 1, {I18n::t("Past days will collect here at midnight.")});
+  ui.setLanguage("fr");
+  items(QAccessible::StaticText, 1, {I18n::t("Past days will collect here at midnight.")});
 }
 
 TEST_F(MainWindowTest, HidesByItsCloseButtonAndComesForwardAgain) {
