@@ -25,6 +25,10 @@ void* operator new(std::size_t size) {
   if (void* memory = std::malloc(std::max<std::size_t>(size, 1))) return memory;
   throw std::bad_alloc();
 }
+// A sanitizer's own would not come to the one above.
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+  return brimle::refuses() ? nullptr : std::malloc(std::max<std::size_t>(size, 1));
+}
 void operator delete(void* memory) noexcept {
   std::free(memory);
 }
