@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <future>
 #include <memory>
 #include <utility>
 
@@ -16,6 +17,7 @@
 #include "i18n/region.h"
 #include "model/data_folder.h"
 #include "model/store.h"
+#include "model/stored_day.h"
 #include "platform/application_id.h"
 #include "platform/build_settings.h"
 #include "platform/desktop/posix_bus_probe.h"
@@ -41,7 +43,7 @@
 #include "prefs/ui_state.h"
 #include "updates/feed_update_controller.h"
 #include "views/content_view.h"
-#include "views/qt/context_menu.h"
+#include "views/qt/pop_up_menu.h"
 #include "views/qt/main_window.h"
 
 namespace brimle {
@@ -96,9 +98,13 @@ int run(int argc, char** argv) {
     return handOver();
   }
 
+  // While the libraries of the desktop are set up.
+  auto stored = std::async([&] { return readStoredDay(files, dataFolder); });
+
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
   QApplication application(argc, argv);
-  MainWindow::Engine engine = MainWindow::prepareEngine();
+  UIState ui(preferences, locale.preferredLanguages);
+  MainWindow::Foundation foundation(ui);
   QApplication::setDesktopFileName(QLatin1String(kApplicationId));
   QApplication::setQuitOnLastWindowClosed(false);
 
@@ -134,14 +140,13 @@ int run(int argc, char** argv) {
   instance.announce();
   QtNotificationCenter notifications(time, files, folders.state / "brimle", reopen);
 
-  Store store({time, files, desktop, notifications}, regionOf(locale.region), dataFolder);
-  UIState ui(preferences, locale.preferredLanguages);
+  Store store({time, files, desktop, notifications}, regionOf(locale.region), dataFolder, stored.get());
   SelectionModel sel(time);
   Signal<> todayFocusAdd;
   ContentView content(store, time);
   ArchiveView archive(store, sel, ui, time);
   MainWindow window({store, content, archive, ui, sel, time, todayFocusAdd, links}, pasteboard,
-                    std::move(engine));
+                    std::move(foundation));
   QtApplication desktopApplication(window.theme(), settings, desktopLooksDark);
   MenuHosts menus({&window.menus(), &globalMenu});
   AppDelegate app({time, desktop, preferences, pasteboard, notifications, desktopApplication, window, menus,

@@ -9,34 +9,32 @@
 
 namespace brimle {
 
-Store::Store(Ports ports, Region region, Path dataFolder)
+Store::Store(Ports ports, Region region, Path dataFolder, StoredDay stored)
     : time_(ports.time),
       files_(ports.files),
       desktop_(ports.desktop),
       notifications_(ports.notifications),
       region_(region),
       folder_(std::move(dataFolder)),
-      fileURL_(folder_ / "today.json"),
+      fileURL_(dayFileIn(folder_)),
       storedDate_(todayKey()) {
   removeLeftovers();
-  load();
+  load(std::move(stored));
   rolloverIfNeeded();
   scheduleCompletedSweep();
   dayChange_ = time_.onDayChange([this] { rolloverIfNeeded(); });
 }
 
-void Store::load() {
-  const auto bytes = files_.read(fileURL_);
-  auto file = bytes ? readDayFile(*bytes) : std::nullopt;
-  if (file) {
-    storedDate_ = std::move(file->date);
-    lists_ = std::move(file->lists);
+void Store::load(StoredDay stored) {
+  if (stored.file) {
+    storedDate_ = std::move(stored.file->date);
+    lists_ = std::move(stored.file->lists);
   } else {
     loadStarterTasks();
   }
   loading_ = false;
   backupIfNeeded(storedDate_);
-  unkept_ = !file && !(bytes && keepUnreadable(*bytes));
+  unkept_ = !stored.file && !(stored.bytes && keepUnreadable(*stored.bytes));
 }
 
 void Store::loadStarterTasks() {

@@ -24,6 +24,7 @@
 #include "entry/entry.h"
 #include "i18n/region.h"
 #include "model/day_file.h"
+#include "model/stored_day.h"
 #include "platform/desktop.h"
 #include "platform/files.h"
 #include "platform/notification_center.h"
@@ -59,10 +60,13 @@ class Store {
 
   using Ids = std::vector<Uuid>;
 
-  /// Loads the day file of `dataFolder`, or starts with the starter tasks; takes the day's backup, rolls the
-  /// day over where it is a new one, and takes up the sweeps of tasks left ticked. The ports must outlive the
-  /// store.
-  Store(Ports ports, Region region, Path dataFolder);
+  /// Takes over what was read of `dataFolder`, or starts with the starter tasks; takes the day's backup,
+  /// rolls the day over where it is a new one, and takes up the sweeps of tasks left ticked. The ports must
+  /// outlive the store.
+  Store(Ports ports, Region region, Path dataFolder, StoredDay stored);
+  /// The same with the folder read now.
+  Store(Ports ports, Region region, const Path& dataFolder)
+      : Store(ports, region, dataFolder, readStoredDay(ports.files, dataFolder)) {}
   Store(const Store&) = delete;
   Store& operator=(const Store&) = delete;
 
@@ -186,7 +190,7 @@ class Store {
   void finishOperation();
 
   void removeLeftovers();
-  void load();
+  void load(StoredDay stored);
   void loadStarterTasks();
   void save();
   void backupIfNeeded(const std::string& stamp);

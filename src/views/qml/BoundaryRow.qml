@@ -25,7 +25,7 @@ Item {
             text: boundary.text
             textFormat: Text.PlainText
             color: Theme.tertiary
-            font { family: Theme.fontFamily; pixelSize: Math.round(10 * Theme.textScale); weight: Font.DemiBold }
+            font: Fonts.boundary
             Accessible.role: Accessible.Heading
             Accessible.name: text
         }

@@ -2,6 +2,9 @@
 import QtQuick
 import Brimle
 
+// Ids of this file are read inside components of it, which Qt before 6.5 has no way to declare.
+// qmllint disable unqualified
+
 Item {
     id: dot
 
@@ -15,34 +18,40 @@ Item {
     Accessible.name: done ? Texts.of["Untick"] : Texts.of["Tick"]
     Accessible.onPressAction: triggered()
 
-    Rectangle {
+    /// From the empty ring, 0, to the disc with the mark, 1; on a spring, which swings beyond both.
+    property real filled: done ? 1 : 0
+    Behavior on filled { TickMove {} }
+
+    component Round: Rectangle {
         anchors.centerIn: parent
         width: 16
         height: 16
         radius: 8
-        color: "transparent"
-        border.width: 1.3
-        border.color: Theme.faded(Theme.primary, 0.4)
-        opacity: dot.done ? 0 : 1
-        Behavior on opacity { TickMove {} }
     }
 
-    Rectangle {
-        anchors.centerIn: parent
-        width: 16
-        height: 16
-        radius: 8
-        color: Theme.faded(Theme.primary, 0.85)
-        scale: dot.done ? 1 : 0.001
-        opacity: dot.done ? 1 : 0
-        Behavior on scale { TickMove {} }
-        Behavior on opacity { TickMove {} }
+    Round {
+        color: "transparent"
+        border { width: 1.3; color: Theme.faded(Theme.primary, 0.4) }
+        opacity: 1 - dot.filled
+    }
 
-        Symbol {
-            anchors.centerIn: parent
-            name: "checkmark"
-            size: 8
-            color: Theme.paper
+    // Most dots of a list are empty.
+    Loader {
+        anchors.fill: parent
+        active: dot.filled > 0
+        sourceComponent: Item {
+            Round {
+                color: Theme.faded(Theme.primary, 0.85)
+                scale: Math.max(0.001, dot.filled)
+                opacity: dot.filled
+
+                Symbol {
+                    anchors.centerIn: parent
+                    name: "checkmark"
+                    size: 8
+                    color: Theme.paper
+                }
+            }
         }
     }
 

@@ -13,7 +13,7 @@ Item {
     required property string text
     required property bool editing
     required property color color
-    required property real size
+    required property font font
     property bool isNote: false
     signal opened
 
@@ -27,7 +27,7 @@ Item {
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
         color: draft.color
-        font { family: Theme.fontFamily; pixelSize: Math.round(draft.size * Theme.textScale) }
+        font: draft.font
 
         Accessible.ignored: !draft.isNote
         Accessible.role: Accessible.StaticText
@@ -43,7 +43,7 @@ Item {
         sourceComponent: InlineEditor {
             initialText: draft.text
             hint: draft.isNote ? "" : draft.archive.dateHint(text)
-            font { family: Theme.fontFamily; pixelSize: Math.round(draft.size * Theme.textScale) }
+            font: draft.font
             color: draft.color
             onEdited: (typed) => draft.archive.setDraft(typed)
             onDone: draft.archive.commit()

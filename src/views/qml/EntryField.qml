@@ -54,22 +54,16 @@ Rectangle {
             color: Theme.primary
             selectedTextColor: Theme.paper
             selectionColor: Theme.faded(Theme.primary, 0.7)
-            font { family: Theme.fontFamily; pixelSize: Math.round(Theme.baseSize * Theme.textScale) }
+            font: Fonts.task
             onActiveFocusChanged: if (activeFocus) field.today.addFocused()
             onCursorRectangleChanged: scroller.showCaret()
             Accessible.role: Accessible.EditableText
             Accessible.name: Texts.of["Add a task"]
 
-            Text {
+            Placeholder {
                 id: placeholder
-                width: parent.width
-                fontSizeMode: Text.HorizontalFit
-                minimumPixelSize: 8
+                field: edit
                 text: Texts.of["Add a task"]
-                textFormat: Text.PlainText
-                visible: edit.length === 0 && edit.preeditText.length === 0
-                color: Theme.placeholder
-                font: edit.font
             }
         }
     }

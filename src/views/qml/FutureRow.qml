@@ -52,7 +52,7 @@ Item {
             text: row.text
             editing: row.editing
             color: Theme.primary
-            size: Theme.baseSize
+            font: Fonts.task
             onOpened: row.archive.beginEdit(row.key)
         }
         Repeater {
@@ -66,7 +66,7 @@ Item {
                 editing: row.noteEditing === index
                 isNote: true
                 color: editing ? Theme.secondary : Theme.tertiary
-                size: Theme.baseSize - 2
+                font: Fonts.note
                 onOpened: row.archive.beginNoteEdit(row.key, index)
             }
         }

@@ -48,7 +48,7 @@ Item {
         fontSizeMode: header.folded ? Text.HorizontalFit : Text.FixedSize
         minimumPixelSize: 10
         color: Theme.primary
-        font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize + 1) * Theme.textScale); weight: Font.DemiBold }
+        font: Fonts.title
 
         readonly property bool takesKeys: true
         activeFocusOnTab: true
@@ -69,7 +69,7 @@ Item {
         text: header.today.count
         textFormat: Text.PlainText
         color: header.today.allDone ? Theme.pencilRed : Theme.secondary
-        font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
+        font: Fonts.note
         Accessible.role: Accessible.StaticText
         Accessible.name: text
     }
@@ -83,7 +83,7 @@ Item {
         text: header.today.tomorrowLabel
         textFormat: Text.PlainText
         color: Theme.tertiary
-        font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize - 3) * Theme.textScale) }
+        font: Fonts.small
         Accessible.role: Accessible.StaticText
         Accessible.name: text
         Accessible.description: header.today.tomorrowTooltip

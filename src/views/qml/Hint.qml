@@ -45,12 +45,12 @@ Item {
             Loader {
                 id: box
                 active: false
-                sourceComponent: hint.box
+                sourceComponent: hint.tooltip
             }
         }
     }
 
-    readonly property Component box: Component {
+    readonly property Component tooltip: Component {
         Window {
             id: tip
             readonly property point above: hint.mapToGlobal(0, -4)
@@ -78,7 +78,7 @@ Item {
                 textFormat: Text.PlainText
                 wrapMode: Text.Wrap
                 color: Theme.primary
-                font { family: Theme.fontFamily; pixelSize: Math.round(11 * Theme.textScale) }
+                font: Fonts.tooltip
             }
         }
     }

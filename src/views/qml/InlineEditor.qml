@@ -61,7 +61,7 @@ Item {
         text: editor.hint
         textFormat: Text.PlainText
         color: Theme.tertiary
-        font { family: input.font.family; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
+        font: Fonts.note
     }
 
     /// The list it stands in, which shows it: when it opens, and when what is around it has found its place.

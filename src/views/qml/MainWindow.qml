@@ -14,7 +14,6 @@ Window {
     minimumHeight: 200
     title: "Brimle"
     color: Theme.paper
-    flags: Qt.Window | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
 
     WindowMover {
         anchors.fill: parent

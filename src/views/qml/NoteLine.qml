@@ -26,7 +26,7 @@ Item {
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
         color: Theme.faded(Theme.secondary, 0.55)
-        font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
+        font: Fonts.note
         Accessible.role: Accessible.StaticText
         Accessible.name: Texts.of["Note"] + ": " + text
     }
@@ -38,7 +38,7 @@ Item {
         active: note.editing
         sourceComponent: InlineEditor {
             initialText: note.noteText
-            font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
+            font: Fonts.note
             color: Theme.secondary
             onEdited: (typed) => note.today.setNote(note.taskId, note.index, typed)
             onDone: note.today.endNoteEdit(note.taskId, note.index)

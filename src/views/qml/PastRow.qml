@@ -58,7 +58,7 @@ Item {
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
             color: Theme.secondary
-            font { family: Theme.fontFamily; pixelSize: Math.round(Theme.baseSize * Theme.textScale); strikeout: row.completed }
+            font: row.completed ? Fonts.doneTask : Fonts.task
         }
         Repeater {
             model: row.notes
@@ -72,7 +72,7 @@ Item {
                 textFormat: Text.PlainText
                 wrapMode: Text.Wrap
                 color: Theme.tertiary
-                font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
+                font: Fonts.note
             }
         }
     }

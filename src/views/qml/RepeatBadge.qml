@@ -30,7 +30,7 @@ Item {
             text: Texts.of["M–F"]
             textFormat: Text.PlainText
             color: Theme.faded(Theme.secondary, 0.7)
-            font { family: Theme.fontFamily; pixelSize: Math.round(9 * Theme.textScale); weight: Font.Medium }
+            font: Fonts.badge
         }
     }
 

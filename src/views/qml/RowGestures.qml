@@ -3,6 +3,9 @@
 import QtQuick
 import Brimle
 
+// Ids of this file are read inside components of it, which Qt before 6.5 has no way to declare.
+// qmllint disable unqualified
+
 MouseArea {
     id: gestures
 
@@ -12,20 +15,15 @@ MouseArea {
     /// Gives the index of the note at a place of the row, below 0 where there is none.
     required property var noteAt
 
-    acceptedButtons: Qt.LeftButton | Qt.RightButton
+    acceptedButtons: Qt.AllButtons
     preventStealing: true
-    drag.target: ghost
+    drag.target: ghost.item
     drag.threshold: 8
 
-    // No binding: the drag runs an event loop of its own, in which one would meet itself.
-    Connections {
-        target: gestures.drag
-        function onActiveChanged() { if (gestures.drag.active) ghost.Drag.active = true }
-    }
-
+    onPressed: ghost.active = true
     onClicked: (mouse) => {
         if (mouse.button === Qt.RightButton) today.openMenu(taskId, mapToGlobal(mouse.x, mouse.y))
-        else today.select(taskId, mouse.modifiers)
+        else if (mouse.button === Qt.LeftButton) today.select(taskId, mouse.modifiers)
     }
     onDoubleClicked: (mouse) => {
         if (mouse.button !== Qt.LeftButton) return
@@ -34,17 +32,28 @@ MouseArea {
         else today.beginNoteEdit(taskId, note)
     }
 
-    Item {
+    // What is dragged; made with the first press, since most rows are never touched.
+    Loader {
         id: ghost
-        Drag.dragType: Drag.Automatic
-        Drag.supportedActions: Qt.CopyAction | Qt.MoveAction
-        Drag.proposedAction: Qt.MoveAction
-        Drag.mimeData: { "text/plain": gestures.text }
-        Drag.imageSource: "qrc:/qt/qml/Brimle/symbols/nothing.svg"
-        Drag.onDragStarted: gestures.today.beginDrag(gestures.taskId)
-        Drag.onDragFinished: {
-            ghost.Drag.active = false
-            gestures.today.endDrag()
+        active: false
+        sourceComponent: Item {
+            id: dragged
+            Drag.dragType: Drag.Automatic
+            Drag.supportedActions: Qt.CopyAction | Qt.MoveAction
+            Drag.proposedAction: Qt.MoveAction
+            Drag.mimeData: { "text/plain": gestures.text }
+            Drag.imageSource: "qrc:/qt/qml/Brimle/symbols/nothing.svg"
+            Drag.onDragStarted: gestures.today.beginDrag(gestures.taskId)
+            Drag.onDragFinished: {
+                dragged.Drag.active = false
+                gestures.today.endDrag()
+            }
+
+            // No binding: the drag runs an event loop of its own, in which one would meet itself.
+            Connections {
+                target: gestures.drag
+                function onActiveChanged() { if (gestures.drag.active) dragged.Drag.active = true }
+            }
         }
     }
 }

@@ -32,7 +32,7 @@ Rectangle {
         color: Theme.primary
         selectedTextColor: Theme.paper
         selectionColor: Theme.faded(Theme.primary, 0.7)
-        font { family: Theme.fontFamily; pixelSize: Math.round(Theme.baseSize * Theme.textScale) }
+        font: Fonts.task
         onTextEdited: box.archive.query = text
         Keys.onEscapePressed: {
             if (text !== "") box.archive.query = ""
@@ -41,16 +41,10 @@ Rectangle {
         Accessible.role: Accessible.EditableText
         Accessible.name: Texts.of["Search archive"]
 
-        Text {
+        Placeholder {
             anchors.verticalCenter: parent.verticalCenter
-            width: parent.width
-            fontSizeMode: Text.HorizontalFit
-            minimumPixelSize: 8
+            field: input
             text: Texts.of["Search archive"]
-            textFormat: Text.PlainText
-            visible: input.length === 0 && input.preeditText.length === 0
-            color: Theme.placeholder
-            font: input.font
         }
     }
 

@@ -43,7 +43,7 @@ Window {
                     textFormat: Text.PlainText
                     wrapMode: Text.Wrap
                     color: Theme.secondary
-                    font { family: Theme.systemFamily; pixelSize: Math.round(11 * Theme.textScale); weight: Font.DemiBold }
+                    font: Fonts.section
                     Accessible.role: Accessible.Heading
                     Accessible.name: text
                 }
@@ -69,7 +69,7 @@ Window {
                             textFormat: Text.PlainText
                             wrapMode: Text.Wrap
                             color: Theme.primary
-                            font { family: Theme.systemFamily; pixelSize: Math.round(12 * Theme.textScale); weight: Font.DemiBold }
+                            font: Fonts.key
                         }
                         Text {
                             id: description
@@ -80,7 +80,7 @@ Window {
                             textFormat: Text.PlainText
                             wrapMode: Text.Wrap
                             color: Theme.secondary
-                            font { family: Theme.systemFamily; pixelSize: Math.round(12 * Theme.textScale) }
+                            font: Fonts.description
                         }
                         Hint {
                             target: row

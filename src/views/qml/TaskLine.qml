@@ -52,7 +52,7 @@ Item {
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
             color: line.done ? Theme.secondary : Theme.primary
-            font { family: Theme.fontFamily; pixelSize: Math.round(Theme.baseSize * Theme.textScale); strikeout: line.done }
+            font: line.done ? Fonts.doneTask : Fonts.task
             HoverHandler { cursorShape: Qt.IBeamCursor }
         }
 
@@ -63,7 +63,7 @@ Item {
             sourceComponent: InlineEditor {
                 initialText: line.taskText
                 hint: line.today.dateHint(text)
-                font { family: Theme.fontFamily; pixelSize: Math.round(Theme.baseSize * Theme.textScale) }
+                font: Fonts.task
                 color: Theme.primary
                 onEdited: (typed) => line.today.setText(line.taskId, typed)
                 onDone: line.today.endEdit(line.taskId)

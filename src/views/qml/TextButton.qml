@@ -12,7 +12,7 @@ Text {
 
     textFormat: Text.PlainText
     color: tip.hovered ? Theme.primary : Theme.secondary
-    font { family: Theme.fontFamily; pixelSize: Math.round((Theme.baseSize - 2) * Theme.textScale) }
+    font: Fonts.note
 
     activeFocusOnTab: true
     Keys.onSpacePressed: triggered()

@@ -46,11 +46,7 @@ Item {
                 textFormat: Text.PlainText
                 wrapMode: Text.Wrap
                 color: Theme.secondary
-                font {
-                    family: Theme.fontFamily
-                    pixelSize: Math.round((Theme.baseSize - (row.kind === "nothing" ? 1 : 2)) * Theme.textScale)
-                    weight: row.kind === "nothing" ? Font.Normal : Font.DemiBold
-                }
+                font: row.kind === "nothing" ? Fonts.nothing : Fonts.day
                 Accessible.role: row.kind === "nothing" ? Accessible.StaticText : Accessible.Heading
                 Accessible.name: text
             }

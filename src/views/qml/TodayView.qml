@@ -66,13 +66,11 @@ Item {
             tallest: view.height - header.height - 80
         }
 
-        // Made when it is shown, and gone when it is left.
+        // Made when it is shown, and gone when it is left; until then not even its types are loaded.
         Loader {
             anchors.fill: parent
             active: view.archive.showing
-            sourceComponent: ArchivePage {
-                archive: view.archive
-            }
+            Component.onCompleted: setSource("ArchivePage.qml", { archive: view.archive })
         }
     }
 }

@@ -18,27 +18,25 @@ Item {
         border.color: Theme.faded(Theme.primary, 0.16)
     }
 
-    Repeater {
-        model: [
-            { edge: Qt.TopEdge | Qt.LeftEdge, h: -1, v: -1, shape: Qt.SizeFDiagCursor },
-            { edge: Qt.TopEdge, h: 0, v: -1, shape: Qt.SizeVerCursor },
-            { edge: Qt.TopEdge | Qt.RightEdge, h: 1, v: -1, shape: Qt.SizeBDiagCursor },
-            { edge: Qt.LeftEdge, h: -1, v: 0, shape: Qt.SizeHorCursor },
-            { edge: Qt.RightEdge, h: 1, v: 0, shape: Qt.SizeHorCursor },
-            { edge: Qt.BottomEdge | Qt.LeftEdge, h: -1, v: 1, shape: Qt.SizeBDiagCursor },
-            { edge: Qt.BottomEdge, h: 0, v: 1, shape: Qt.SizeVerCursor },
-            { edge: Qt.BottomEdge | Qt.RightEdge, h: 1, v: 1, shape: Qt.SizeFDiagCursor }
-        ]
+    /// An edge or a corner: `h` is -1 at the left and 1 at the right, `v` -1 at the top and 1 at the bottom.
+    component Edge: MouseArea {
+        required property int h
+        required property int v
 
-        MouseArea {
-            required property var modelData
-
-            x: modelData.h < 0 ? 0 : modelData.h > 0 ? edges.width - edges.reach : edges.reach
-            y: modelData.v < 0 ? 0 : modelData.v > 0 ? edges.height - edges.reach : edges.reach
-            width: modelData.h === 0 ? edges.width - 2 * edges.reach : edges.reach
-            height: modelData.v === 0 ? edges.height - 2 * edges.reach : edges.reach
-            cursorShape: modelData.shape
-            onPressed: edges.target.startSystemResize(modelData.edge)
-        }
+        x: h < 0 ? 0 : h > 0 ? edges.width - edges.reach : edges.reach
+        y: v < 0 ? 0 : v > 0 ? edges.height - edges.reach : edges.reach
+        width: h === 0 ? edges.width - 2 * edges.reach : edges.reach
+        height: v === 0 ? edges.height - 2 * edges.reach : edges.reach
+        onPressed: edges.target.startSystemResize((h < 0 ? Qt.LeftEdge : h > 0 ? Qt.RightEdge : 0)
+                                                  | (v < 0 ? Qt.TopEdge : v > 0 ? Qt.BottomEdge : 0))
     }
+
+    Edge { h: -1; v: -1; cursorShape: Qt.SizeFDiagCursor }
+    Edge { h: 0; v: -1; cursorShape: Qt.SizeVerCursor }
+    Edge { h: 1; v: -1; cursorShape: Qt.SizeBDiagCursor }
+    Edge { h: -1; v: 0; cursorShape: Qt.SizeHorCursor }
+    Edge { h: 1; v: 0; cursorShape: Qt.SizeHorCursor }
+    Edge { h: -1; v: 1; cursorShape: Qt.SizeBDiagCursor }
+    Edge { h: 0; v: 1; cursorShape: Qt.SizeVerCursor }
+    Edge { h: 1; v: 1; cursorShape: Qt.SizeFDiagCursor }
 }

@@ -1,6 +1,6 @@
 #include "views/qt/archive_screen.h"
 
-#include "views/qt/context_menu.h"
+#include "views/qt/pop_up_menu.h"
 #include "views/qt/convert.h"
 #include "views/qt/key_events.h"
 #include "views/scroll_watch.h"

@@ -34,31 +34,33 @@ Rect rectOf(const QRect& rect) {
 
 }  // namespace
 
-MainWindow::Engine MainWindow::prepareEngine() {
-  auto engine = std::make_unique<QQmlApplicationEngine>();
+MainWindow::Foundation::Foundation(UIState& ui)
+    : theme(std::make_unique<Theme>(ui)), engine(std::make_unique<QQmlApplicationEngine>()) {
   new QQmlComponent(engine.get(), windowFile(), QQmlComponent::Asynchronous, engine.get());
-  return engine;
+  theme->fonts().prepare();
 }
 
-MainWindow::MainWindow(Today::Parts parts, Pasteboard& pasteboard, Engine engine)
+MainWindow::MainWindow(Today::Parts parts, Pasteboard& pasteboard, Foundation foundation)
     : store_(parts.store),
       keys_(parts.store, parts.sel, parts.ui, pasteboard, parts.todayFocusAdd),
       clickAway_(parts.sel, parts.ui, parts.time),
-      theme_(parts.ui),
+      theme_(std::move(foundation.theme)),
       texts_(parts.ui),
       today_(parts),
       archive_(parts.store, parts.sel, parts.ui, parts.archive, parts.todayFocusAdd),
-      engine_(std::move(engine)),
+      engine_(std::move(foundation.engine)),
       shortcuts_(*engine_, parts.ui, parts.store.entryContext().region) {
   engine_->setInitialProperties({{QStringLiteral("today"), QVariant::fromValue(&today_)},
                                  {QStringLiteral("archive"), QVariant::fromValue(&archive_)}});
   engine_->load(windowFile());
   if (engine_->rootObjects().isEmpty()) qFatal("the window could not be made");
   window_ = qobject_cast<QQuickWindow*>(engine_->rootObjects().constFirst());
+  // Not in QML, where the first look at Qt's flags in a binding takes 10 ms: all of them are listed for it.
+  window_->setFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
   window_->installEventFilter(this);
   connect(&today_, &Today::menuRequested, this, &MainWindow::openMenu);
-  connect(&theme_, &Theme::changed, this, [this] { QApplication::setPalette(theme_.palette()); });
-  QApplication::setPalette(theme_.palette());
+  connect(theme_.get(), &Theme::changed, this, [this] { QApplication::setPalette(theme_->palette()); });
+  QApplication::setPalette(theme_->palette());
   resizing_.setDuration(kResizing);
   resizing_.setEasingCurve(QEasingCurve::InOutQuad);
   connect(&resizing_, &QVariantAnimation::valueChanged, window_,
@@ -84,7 +86,7 @@ void MainWindow::setFrame(const Rect& frame) {
   resizing_.stop();
   shownAt_ = target;
   window_->setMinimumHeight(qMin(target.height(), kLeastHeight));
-  if (theme_.reduceMotion() || !window_->isVisible()) return window_->setGeometry(target);
+  if (theme_->reduceMotion() || !window_->isVisible()) return window_->setGeometry(target);
   resizing_.setStartValue(window_->geometry());
   resizing_.setEndValue(target);
   resizing_.start();
@@ -119,7 +121,7 @@ void MainWindow::minimise() {
 }
 
 void MainWindow::refreshPaper() {
-  emit theme_.changed();
+  emit theme_->changed();
 }
 
 bool MainWindow::edit(EditCommand command) {
@@ -168,11 +170,11 @@ bool MainWindow::filterEvent(QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress: return handleKey(*static_cast<QKeyEvent*>(event));
     case QEvent::MouseButtonPress:
-      theme_.setFocusShown(false);
-      emit theme_.acted();
+      theme_->setFocusShown(false);
+      emit theme_->acted();
       leaveEditor(*static_cast<QMouseEvent*>(event));
       return false;
-    case QEvent::FocusOut: emit theme_.acted(); return false;
+    case QEvent::FocusOut: emit theme_->acted(); return false;
     case QEvent::MouseButtonRelease: {
       const auto& mouse = *static_cast<QMouseEvent*>(event);
       if (mouse.button() == Qt::LeftButton) clickAway_.mouseUp(modifiersOf(mouse.modifiers()));
@@ -202,7 +204,7 @@ void MainWindow::leaveEditor(const QMouseEvent& press) {
 }
 
 bool MainWindow::handleKey(const QKeyEvent& event) {
-  emit theme_.acted();
+  emit theme_->acted();
   const KeyPress key = keyPressOf(event);
   return filterKey(key) || (reports_.key && reports_.key(key)) || handleFocusKey(event);
 }
@@ -227,7 +229,7 @@ bool MainWindow::handleFocusKey(const QKeyEvent& event) {
     case Qt::Key_Tab:
     case Qt::Key_Backtab:
       if (event.modifiers().testFlag(Qt::ControlModifier)) return moveFocus(event.key() == Qt::Key_Tab), true;
-      theme_.setFocusShown(true);
+      theme_->setFocusShown(true);
       return false;
     default: return false;
   }
@@ -242,12 +244,12 @@ bool MainWindow::focusedControlTakes(const KeyPress& key) const {
 
 bool MainWindow::askForMenu() {
   if (keyboardPlace().inTextField) return false;
-  theme_.setFocusShown(true);
+  theme_->setFocusShown(true);
   return archive_.showing() ? archive_.askForMenu() : today_.askForMenu();
 }
 
 bool MainWindow::openMenuByKey() {
-  theme_.setFocusShown(true);
+  theme_->setFocusShown(true);
   openMenu();
   return true;
 }
@@ -262,7 +264,7 @@ void MainWindow::openMenu() {
 void MainWindow::moveFocus(bool forward) {
   QQuickItem* item = window_->activeFocusItem();
   if (!item) item = window_->contentItem();
-  theme_.setFocusShown(true);
+  theme_->setFocusShown(true);
   item->nextItemInFocusChain(forward)->forceActiveFocus(forward ? Qt::TabFocusReason
                                                                 : Qt::BacktabFocusReason);
 }

@@ -37,16 +37,22 @@ class MainWindow : public QObject, public AppWindow {
     std::function<void()> closed;
   };
 
-  using Engine = std::unique_ptr<QQmlApplicationEngine>;
-  /// An engine that loads the window's types from now on, on a thread of its own: what else is to be done
-  /// before there is a window is done meanwhile.
-  static Engine prepareEngine();
+  /// What takes long and needs no tasks: the engine, which loads the window's types on a thread of its own
+  /// from now on, and the theme with its typefaces. `ui` must outlive it.
+  struct Foundation {
+    std::unique_ptr<Theme> theme;
+    std::unique_ptr<QQmlApplicationEngine> engine;
+
+    explicit Foundation(UIState& ui);
+  };
 
   /// All that the parts refer to, and the clipboard, must outlive the window.
-  MainWindow(Today::Parts parts, Pasteboard& pasteboard, Engine engine = prepareEngine());
+  MainWindow(Today::Parts parts, Pasteboard& pasteboard, Foundation foundation);
+  MainWindow(Today::Parts parts, Pasteboard& pasteboard)
+      : MainWindow(parts, pasteboard, Foundation(parts.ui)) {}
   ~MainWindow() override;
 
-  Theme& theme() { return theme_; }
+  Theme& theme() { return *theme_; }
   ShortcutsCard& shortcuts() { return shortcuts_; }
   MenuHost& menus() { return menuButton_; }
   void setReports(Reports reports);
@@ -81,11 +87,11 @@ class MainWindow : public QObject, public AppWindow {
   KeyFilter keys_;
   ClickAway clickAway_;
   AltTap altTap_;
-  Theme theme_;
+  const std::unique_ptr<Theme> theme_;
   Texts texts_;
   Today today_;
   ArchiveScreen archive_;
-  const Engine engine_;
+  const std::unique_ptr<QQmlApplicationEngine> engine_;
   ShortcutsCard shortcuts_;
   MenuButton menuButton_;
   QQuickWindow* window_ = nullptr;

@@ -1,6 +1,6 @@
 #include "views/qt/menu_button.h"
 
-#include "views/qt/context_menu.h"
+#include "views/qt/pop_up_menu.h"
 
 namespace brimle {
 

@@ -6,7 +6,7 @@
 #include <QQuickWindow>
 
 #include "i18n/i18n.h"
-#include "views/qt/context_menu.h"
+#include "views/qt/pop_up_menu.h"
 
 namespace brimle {
 namespace {

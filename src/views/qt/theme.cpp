@@ -56,6 +56,7 @@ QString roundedFamily() {
 
 Theme::Theme(UIState& ui) : ui_(ui), seen_(settings()), following_(ui.observe([this] { settingsTold(); })) {
   instance = this;
+  setFonts();
 }
 
 Theme::~Theme() {
@@ -69,7 +70,9 @@ Theme* Theme::create(QQmlEngine*, QJSEngine*) {
 
 template <class Value>
 void Theme::assign(Value& member, Value value) {
-  if (std::exchange(member, value) != value) emit changed();
+  if (std::exchange(member, value) == value) return;
+  setFonts();
+  emit changed();
 }
 
 Theme::Settings Theme::settings() const {
@@ -130,21 +133,24 @@ QString Theme::fontFamily() const {
     case FontDesign::rounded: return roundedFamily();
     case FontDesign::standard: break;
   }
-  return systemFamily();
-}
-
-QString Theme::systemFamily() const {
   return QGuiApplication::font().family();
 }
 
+void Theme::setFonts() {
+  fonts_.setBasis({fontFamily(), QGuiApplication::font().family(), baseSize(), textScale_});
+}
+
+// Computed once: every row has animations of its own.
 QVariantList Theme::listSpring() const {
-  return curveOf(kListSpring);
+  static const QVariantList curve = curveOf(kListSpring);
+  return curve;
 }
 int Theme::listSpringDuration() const {
   return milliseconds(kListSpring);
 }
 QVariantList Theme::tickSpring() const {
-  return curveOf(kTickSpring);
+  static const QVariantList curve = curveOf(kTickSpring);
+  return curve;
 }
 int Theme::tickSpringDuration() const {
   return milliseconds(kTickSpring);

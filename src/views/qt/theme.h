@@ -1,5 +1,5 @@
-// The one theme of the QML views: colours for the appearance in force, sizes, fonts and motion.
-// A singleton made by the program before the window; QML reads it and never sets it.
+// The one theme of the QML views: colours for the appearance in force, sizes and motion; it keeps their
+// fonts. A singleton made by the program before the window; QML reads it and never sets it.
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
@@ -14,6 +14,7 @@
 #include "base/signal.h"
 #include "prefs/palette.h"
 #include "prefs/ui_state.h"
+#include "views/qt/fonts.h"
 
 namespace brimle {
 
@@ -29,10 +30,7 @@ class Theme : public QObject {
   Q_PROPERTY(QColor secondary READ secondary NOTIFY changed)
   Q_PROPERTY(QColor tertiary READ tertiary NOTIFY changed)
   Q_PROPERTY(QColor placeholder READ placeholder NOTIFY changed)
-  Q_PROPERTY(QString fontFamily READ fontFamily NOTIFY changed)
-  Q_PROPERTY(QString systemFamily READ systemFamily CONSTANT)
   Q_PROPERTY(double baseSize READ baseSize NOTIFY changed)
-  Q_PROPERTY(double textScale READ textScale NOTIFY changed)
   Q_PROPERTY(double listInset READ listInset NOTIFY changed)
   Q_PROPERTY(bool reduceMotion READ reduceMotion NOTIFY changed)
   Q_PROPERTY(bool focusShown READ focusShown NOTIFY focusShownChanged)
@@ -64,8 +62,6 @@ class Theme : public QObject {
   QColor secondary() const;
   QColor tertiary() const;
   QColor placeholder() const;
-  QString fontFamily() const;
-  QString systemFamily() const;
   double baseSize() const { return ui_.baseSize(); }
   /// What font sizes are multiplied by.
   double textScale() const { return textScale_; }
@@ -77,6 +73,7 @@ class Theme : public QObject {
   int listSpringDuration() const;
   QVariantList tickSpring() const;
   int tickSpringDuration() const;
+  const Fonts& fonts() const { return fonts_; }
 
   /// The same colours for menus and dialogs.
   QPalette palette() const;
@@ -100,10 +97,13 @@ class Theme : public QObject {
 
   Settings settings() const;
   void settingsTold();
+  QString fontFamily() const;
+  void setFonts();
   template <class Value>
   void assign(Value& member, Value value);
 
   UIState& ui_;
+  Fonts fonts_;
   Settings seen_;
   Subscription following_;
   Appearance appearance_ = Appearance::light;

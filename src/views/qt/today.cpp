@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <unordered_set>
 
-#include "views/qt/context_menu.h"
+#include "views/qt/pop_up_menu.h"
 #include "views/qt/convert.h"
 #include "views/qt/key_events.h"
 

@@ -1,4 +1,4 @@
-#include "views/qt/context_menu.h"
+#include "views/qt/pop_up_menu.h"
 
 #include <QActionGroup>
 #include <QCoreApplication>
