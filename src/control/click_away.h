@@ -2,8 +2,7 @@
 // deselects, and so does one on the only selected row.
 #pragma once
 
-#include <memory>
-
+#include "base/lifetime.h"
 #include "control/keys.h"
 #include "control/selection_model.h"
 #include "platform/time.h"
@@ -24,7 +23,7 @@ class ClickAway {
   SelectionModel& sel_;
   const UIState& ui_;
   Time& time_;
-  std::shared_ptr<int> alive_ = std::make_shared<int>();
+  Lifetime life_;
 };
 
 }  // namespace brimle

@@ -125,10 +125,4 @@ void Store::save() {
   if (files_.replace(fileURL_, file.pieces())) unkept_ = false;
 }
 
-void Store::later(Seconds delay, std::function<void()> action) {
-  time_.after(delay, [alive = std::weak_ptr(alive_), action = std::move(action)] {
-    if (!alive.expired()) action();
-  });
-}
-
 }  // namespace brimle

@@ -20,6 +20,7 @@
 #include <unordered_set>
 #include <vector>
 
+#include "base/lifetime.h"
 #include "base/signal.h"
 #include "entry/entry.h"
 #include "i18n/region.h"
@@ -209,8 +210,6 @@ class Store {
 
   std::string todayKey() const { return dayKey(time_.today()); }
   bool isWeekendToday() const { return region_.isWeekend(time_.today()); }
-  /// A delayed call that is dropped where the store is gone when it is due.
-  void later(Seconds delay, std::function<void()> action);
 
   Time& time_;
   Files& files_;
@@ -242,7 +241,7 @@ class Store {
 
   Signal<const Changes&> observers_;
   Subscription dayChange_;
-  std::shared_ptr<int> alive_ = std::make_shared<int>();
+  Lifetime life_;
 };
 
 }  // namespace brimle

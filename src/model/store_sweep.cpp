@@ -24,7 +24,7 @@ void Store::scheduleCompletedSweep() {
 void Store::sweepLater(Seconds wait, const Uuid& id, void (Store::*check)(const Uuid&)) {
   pendingArchive_.insert(id);
   try {
-    later(wait, [this, id, check] { (this->*check)(id); });
+    time_.after(wait, life_.guard([this, id, check] { (this->*check)(id); }));
   } catch (...) {
     pendingArchive_.erase(id);
     throw;

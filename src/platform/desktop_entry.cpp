@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 #include <vector>
+
+#include "base/escape.h"
 
 namespace brimle {
 namespace {
@@ -14,10 +17,8 @@ constexpr std::string_view kReserved = " \t\n\"'\\><~|&;$*?#()`";
 /// These need a backslash between quotes.
 constexpr std::string_view kEscapedInQuotes = "\"`$\\";
 
-/// What stands for a character in any value.
-struct Escape {
-  char character, letter;
-};
+/// What stands for a character in any value. The space needs it at the beginning alone, where none of ours
+/// is.
 constexpr std::array kEscapes{Escape{' ', 's'}, Escape{'\n', 'n'}, Escape{'\t', 't'}, Escape{'\r', 'r'},
                               Escape{'\\', '\\'}};
 
@@ -59,33 +60,6 @@ std::optional<std::string_view> valueIn(std::string_view line, std::string_view 
   const std::size_t equals = line.find('=');
   if (equals == line.npos || trimmed(line.substr(0, equals)) != key) return std::nullopt;
   return trimmed(line.substr(equals + 1));
-}
-
-std::string escaped(std::string_view text) {
-  std::string result;
-  for (const char c : text) {
-    const auto escape = std::ranges::find(kEscapes, c, &Escape::character);
-    if (c == ' ' || escape == kEscapes.end()) {
-      result += c;  // a space needs it at the beginning alone, where none can be
-    } else {
-      (result += '\\') += escape->letter;
-    }
-  }
-  return result;
-}
-
-std::optional<std::string> unescaped(std::string_view text) {
-  std::string result;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] != '\\') {
-      result += text[i];
-      continue;
-    }
-    const auto escape = std::ranges::find(kEscapes, ++i < text.size() ? text[i] : '\0', &Escape::letter);
-    if (escape == kEscapes.end()) return std::nullopt;
-    result += escape->character;
-  }
-  return result;
 }
 
 /// The first argument of a command line.
@@ -143,11 +117,11 @@ std::string execValue(std::string_view program) {
     if (c == '%') argument += '%';  // alone it stands for a file or a name
   }
   if (program.empty() || program.find_first_of(kReserved) != program.npos) argument = '"' + argument + '"';
-  return escaped(argument);
+  return escaped(argument, std::span(kEscapes).subspan(1));
 }
 
 std::optional<std::string> programOfExec(std::string_view exec) {
-  const auto line = unescaped(exec);
+  const auto line = unescaped(exec, kEscapes);
   const auto argument = line ? firstArgument(*line) : std::nullopt;
   if (!argument) return std::nullopt;
   std::string program;

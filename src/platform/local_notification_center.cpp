@@ -21,14 +21,6 @@ Seconds untilNextQuarter(Instant now) {
 
 }  // namespace
 
-/// `action` as one that does nothing once this is gone.
-template <class Action>
-auto LocalNotificationCenter::whileAlive(Action action) {
-  return [alive = std::weak_ptr<void>(alive_), action = std::move(action)](auto... args) {
-    if (!alive.expired()) action(args...);
-  };
-}
-
 LocalNotificationCenter::LocalNotificationCenter(Time& time, Files& files, const Path& stateFolder)
     : time_(time),
       files_(files),
@@ -51,7 +43,7 @@ void LocalNotificationCenter::requestAuthorization(std::function<void(bool grant
 }
 
 void LocalNotificationCenter::getPendingRequests(std::function<void(std::vector<NotificationRequest>)> done) {
-  time_.after(Seconds(0), whileAlive([this, done = std::move(done)] { done(pending_.requests()); }));
+  time_.after(Seconds(0), life_.guard([this, done = std::move(done)] { done(pending_.requests()); }));
 }
 
 void LocalNotificationCenter::removePendingRequests(const std::vector<std::string>& identifiers) {
@@ -65,11 +57,11 @@ void LocalNotificationCenter::add(NotificationRequest request) {
 }
 
 void LocalNotificationCenter::addIn(Seconds delay, NotificationRequest request) {
-  time_.after(delay, whileAlive([this, request = std::move(request)] {
-                NotificationRequest now = request;
-                now.trigger = {time_.today(), 0};
-                add(std::move(now));
-              }));
+  time_.after(delay, life_.guard([this, request = std::move(request)] {
+    NotificationRequest now = request;
+    now.trigger = {time_.today(), 0};
+    add(std::move(now));
+  }));
 }
 
 void LocalNotificationCenter::retry() {
@@ -80,10 +72,10 @@ void LocalNotificationCenter::retry() {
 /// Many changes of one moment are tended to, and saved, as one.
 void LocalNotificationCenter::change() {
   if (std::exchange(changing_, true)) return;
-  time_.after(Seconds(0), whileAlive([this] {
-                changing_ = false;
-                tend();
-              }));
+  time_.after(Seconds(0), life_.guard([this] {
+    changing_ = false;
+    tend();
+  }));
 }
 
 /// Does what there is to do now: drops, saves, and begins the next delivery or asks the clock for a call.
@@ -102,7 +94,7 @@ void LocalNotificationCenter::tend() {
 
 void LocalNotificationCenter::begin(const NotificationRequest& request) {
   delivering_ = true;
-  deliver(request, whileAlive([this, request](bool shown) { end(request, shown); }));
+  deliver(request, life_.guard([this, request](bool shown) { end(request, shown); }));
 }
 
 void LocalNotificationCenter::end(const NotificationRequest& request, bool shown) {
@@ -118,9 +110,9 @@ void LocalNotificationCenter::end(const NotificationRequest& request, bool shown
 }
 
 void LocalNotificationCenter::retryIn(Seconds delay) {
-  time_.after(delay, whileAlive([this, appointment = ++appointment_] {
-                if (appointment == appointment_) retry();
-              }));
+  time_.after(delay, life_.guard([this, appointment = ++appointment_] {
+    if (appointment == appointment_) retry();
+  }));
 }
 
 void LocalNotificationCenter::save() {

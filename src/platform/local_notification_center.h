@@ -5,9 +5,9 @@
 // is dropped. A delivery that fails is tried again while the day lasts, and holds up no other.
 #pragma once
 
-#include <memory>
 #include <set>
 
+#include "base/lifetime.h"
 #include "platform/files.h"
 #include "platform/pending_notifications.h"
 #include "platform/time.h"
@@ -44,8 +44,6 @@ class LocalNotificationCenter : public NotificationCenter {
   void end(const NotificationRequest& request, bool shown);
   void retryIn(Seconds delay);
   void save();
-  template <class Action>
-  auto whileAlive(Action action);
 
   Time& time_;
   Files& files_;
@@ -56,7 +54,7 @@ class LocalNotificationCenter : public NotificationCenter {
   bool delivering_ = false;       ///< a delivery is under way
   std::set<std::string> failed_;  ///< identifiers that wait for the next retry
   int appointment_ = 0;           ///< the latest call asked of the clock: earlier ones do nothing
-  std::shared_ptr<void> alive_ = std::make_shared<int>();
+  Lifetime life_;
   Subscription dayChange_;
   Subscription wake_;
 };

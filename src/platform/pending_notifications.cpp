@@ -4,41 +4,15 @@
 #include <charconv>
 #include <utility>
 
+#include "base/escape.h"
+
 namespace brimle {
 namespace {
 
 using Trigger = NotificationRequest::Trigger;
 
 /// What stands for itself nowhere in a field, and what is written after a backslash instead.
-constexpr std::pair<char, char> kEscapes[] = {{'\\', '\\'}, {'\t', 't'}, {'\n', 'n'}};
-
-std::string escaped(std::string_view field) {
-  std::string out;
-  for (const char c : field) {
-    const auto escape = std::ranges::find(kEscapes, c, &std::pair<char, char>::first);
-    if (escape == std::end(kEscapes)) {
-      out += c;
-    } else {
-      out += {'\\', escape->second};
-    }
-  }
-  return out;
-}
-
-std::optional<std::string> unescaped(std::string_view field) {
-  std::string out;
-  for (std::size_t at = 0; at < field.size(); ++at) {
-    if (field[at] != '\\') {
-      out += field[at];
-      continue;
-    }
-    if (++at == field.size()) return std::nullopt;
-    const auto escape = std::ranges::find(kEscapes, field[at], &std::pair<char, char>::second);
-    if (escape == std::end(kEscapes)) return std::nullopt;
-    out += escape->first;
-  }
-  return out;
-}
+constexpr Escape kEscapes[] = {{'\\', '\\'}, {'\t', 't'}, {'\n', 'n'}};
 
 std::vector<std::string_view> split(std::string_view text, char separator) {
   std::vector<std::string_view> parts;
@@ -68,7 +42,8 @@ std::optional<NotificationRequest> parseRequest(std::string_view line) {
   const auto fields = split(line, '\t');
   if (fields.size() != 4) return std::nullopt;
   const auto trigger = parseTrigger(fields[0]);
-  const auto identifier = unescaped(fields[1]), title = unescaped(fields[2]), body = unescaped(fields[3]);
+  const auto identifier = unescaped(fields[1], kEscapes), title = unescaped(fields[2], kEscapes),
+             body = unescaped(fields[3], kEscapes);
   if ((!trigger && fields[0] != "-") || !identifier || !title || !body) return std::nullopt;
   return NotificationRequest{*identifier, *title, *body, trigger};
 }
@@ -86,7 +61,7 @@ std::string PendingNotifications::bytes() const {
   for (const NotificationRequest& request : requests_) {
     out += triggerText(request.trigger);
     for (const auto* field : {&request.identifier, &request.title, &request.body}) {
-      out += '\t' + escaped(*field);
+      out += '\t' + escaped(*field, kEscapes);
     }
     out += '\n';
   }

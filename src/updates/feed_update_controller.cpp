@@ -7,7 +7,7 @@
 namespace brimle {
 
 FeedUpdateController::FeedUpdateController(BuildSettings settings, FeedSource& source, UpdateWindows& windows)
-    : settings_(std::move(settings)), source_(source), windows_(windows), life_(std::make_shared<char>()) {}
+    : settings_(std::move(settings)), source_(source), windows_(windows) {}
 
 void FeedUpdateController::checkForUpdates() {
   if (checking_) return;
@@ -24,13 +24,10 @@ void FeedUpdateController::checkForUpdates() {
 
 void FeedUpdateController::fetch(const std::string& address, std::size_t limit,
                                  std::function<void(std::string)> then) {
-  source_.fetch(
-      address, limit,
-      [this, life = std::weak_ptr(life_), then = std::move(then)](std::optional<std::string> bytes) {
-        if (life.expired()) return;
-        if (!bytes) return tell({CheckResult::notLoaded, {}});
-        then(std::move(*bytes));
-      });
+  source_.fetch(address, limit, life_.guard([this, then = std::move(then)](std::optional<std::string> bytes) {
+    if (!bytes) return tell({CheckResult::notLoaded, {}});
+    then(std::move(*bytes));
+  }));
 }
 
 void FeedUpdateController::tell(const CheckOutcome& outcome) {

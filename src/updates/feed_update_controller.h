@@ -3,9 +3,9 @@
 // It does nothing on its own: no check without the user's command, and nothing is kept between checks.
 #pragma once
 
-#include <memory>
 #include <string>
 
+#include "base/lifetime.h"
 #include "platform/build_settings.h"
 #include "platform/feed_source.h"
 #include "platform/update_controller.h"
@@ -29,7 +29,7 @@ class FeedUpdateController : public UpdateController {
   FeedSource& source_;
   UpdateWindows& windows_;
   bool checking_ = false;
-  std::shared_ptr<void> life_;  ///< answers that come after it are dropped
+  Lifetime life_;
 };
 
 }  // namespace brimle

@@ -74,7 +74,7 @@ void RowView::textFocusLost(const Uuid& id) {
 }
 
 void RowView::beginNoteEdit(const Uuid& id, std::int64_t index) {
-  closing_ = std::make_shared<int>();
+  closing_.renew();
   if (const auto open = sel_.noteEditingID()) {
     const std::int64_t openIndex = sel_.noteEditingIndex();
     if (cleanupNote(store_, *open, openIndex) && open == id && openIndex < index) --index;
@@ -104,9 +104,9 @@ void RowView::noteFocusLost(const Uuid& id, std::int64_t index) {
   };
   if (!isOpen() || sel_.hopping()) return;
   // On the next turn, since the keyboard may be on its way to another note of the same row.
-  time_.after(Seconds(0), [this, due = std::weak_ptr(closing_), isOpen, id, index] {
-    if (!due.expired() && isOpen()) endNoteEdit(id, index);
-  });
+  time_.after(Seconds(0), closing_.guard([this, isOpen, id, index] {
+    if (isOpen()) endNoteEdit(id, index);
+  }));
 }
 
 std::string RowView::dateHint(std::string_view text) const {

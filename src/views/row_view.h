@@ -6,10 +6,10 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <vector>
 
+#include "base/lifetime.h"
 #include "control/row_commands.h"
 #include "control/selection_model.h"
 #include "model/store.h"
@@ -67,7 +67,7 @@ class RowView {
   Time& time_;
   RowCommands commands_{store_, sel_};
   /// Shared with the calls that will close a note; one that is opened meanwhile takes their place.
-  std::shared_ptr<int> closing_ = std::make_shared<int>();
+  Lifetime closing_;
 };
 
 }  // namespace brimle

@@ -6,12 +6,13 @@
 // own, app_<rule>.cpp.
 #pragma once
 
-#include <memory>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "app/core/menu_bar.h"
+#include "base/lifetime.h"
 #include "base/rect.h"
 #include "base/signal.h"
 #include "model/store.h"
@@ -122,11 +123,8 @@ class AppDelegate {
 
   void settingsChanged();
   /// Calls `action` on a later turn of the main queue, unless this is gone by then.
-  template <class Action>
-  void later(Seconds delay, Action action) {
-    ports_.time.after(delay, [alive = std::weak_ptr<void>(alive_), action = std::move(action)] {
-      if (!alive.expired()) action();
-    });
+  void later(Seconds delay, std::function<void()> action) {
+    ports_.time.after(delay, life_.guard(std::move(action)));
   }
 
   const Ports ports_;
@@ -142,7 +140,7 @@ class AppDelegate {
   bool seenCompact_ = false;   ///< the settings as they were last told
   std::string seenPaperTone_;
   std::vector<Subscription> cancellables_;
-  std::shared_ptr<void> alive_ = std::make_shared<int>();
+  Lifetime life_;
 };
 
 }  // namespace brimle

@@ -3,8 +3,9 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
-#include <QDBusServiceWatcher>
 #include <QGuiApplication>
+
+#include "platform/desktop/qt_bus.h"
 
 namespace brimle {
 namespace {
@@ -19,12 +20,9 @@ constexpr auto kMenuPath = "/org/brimle/Brimle/MenuBar";
 QtGlobalMenu::QtGlobalMenu() : menu_(kMenuPath, [this] { return entries(); }) {
   const QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return;
-  registrars_ =
-      std::make_unique<QDBusServiceWatcher>(kService, bus, QDBusServiceWatcher::WatchForOwnerChange);
-  connect(registrars_.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
-          [this](const QString&, const QString&, const QString& newOwner) {
-            if (!newOwner.isEmpty()) offer();
-          });
+  registrars_ = watchOwner(bus, kService, [this](const QString& newOwner) {
+    if (!newOwner.isEmpty()) offer();
+  });
 }
 
 QtGlobalMenu::~QtGlobalMenu() = default;

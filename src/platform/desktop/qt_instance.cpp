@@ -3,13 +3,13 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 #include <QEventLoop>
 #include <QTimer>
 
 #include "platform/application_id.h"
+#include "platform/desktop/qt_bus.h"
 
 namespace brimle {
 namespace {
@@ -63,11 +63,9 @@ void QtInstance::announce() {
       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("RequestName"));
   constexpr uint doNotQueue = 4;
   request << QString::fromLatin1(kService) << doNotQueue;
-  auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(request), this);
-  connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
-    watcher->deleteLater();
+  callWithoutWaiting(bus, request, this, [this](const QDBusPendingCall& call) {
     constexpr uint primaryOwner = 1;
-    const QDBusPendingReply<uint> reply = *watcher;
+    const QDBusPendingReply<uint> reply = call;
     hasName_ = !reply.isError() && reply.value() == primaryOwner;
   });
 }

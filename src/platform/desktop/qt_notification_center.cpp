@@ -2,12 +2,11 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QDBusServiceWatcher>
 #include <algorithm>
 
 #include "platform/application_id.h"
+#include "platform/desktop/qt_bus.h"
 
 namespace brimle {
 namespace {
@@ -75,9 +74,7 @@ bool QtNotificationCenter::listen() {
   if (!bus.isConnected()) return false;
   bus.connect({}, kPath, kInterface, "ActivationToken", this, SLOT(tokenGiven(uint, QString)));
   bus.connect({}, kPath, kInterface, "ActionInvoked", this, SLOT(actionInvoked(uint, QString)));
-  server_ = std::make_unique<QDBusServiceWatcher>(kService, bus, QDBusServiceWatcher::WatchForOwnerChange);
-  connect(server_.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
-          [this](const QString&, const QString&, const QString& newOwner) { serverChanged(newOwner); });
+  server_ = watchOwner(bus, kService, [this](const QString& newOwner) { serverChanged(newOwner); });
   return true;
 }
 
@@ -107,11 +104,7 @@ void QtNotificationCenter::call(const char* method, const QVariantList& argument
                                 std::function<void(const QDBusPendingCall&)> answered) {
   QDBusMessage message = QDBusMessage::createMethodCall(kService, kPath, kInterface, method);
   message.setArguments(arguments);
-  auto* watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(message), this);
-  connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, answered = std::move(answered)] {
-    watcher->deleteLater();
-    answered(*watcher);
-  });
+  callWithoutWaiting(QDBusConnection::sessionBus(), message, this, std::move(answered));
 }
 
 }  // namespace brimle

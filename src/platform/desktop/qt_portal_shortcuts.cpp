@@ -3,8 +3,6 @@
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMetaType>
-#include <QDBusPendingCallWatcher>
-#include <QDBusServiceWatcher>
 #include <QThread>
 #include <algorithm>
 #include <optional>
@@ -12,6 +10,7 @@
 
 #include "i18n/i18n.h"
 #include "platform/application_id.h"
+#include "platform/desktop/qt_bus.h"
 
 namespace brimle {
 
@@ -86,14 +85,12 @@ void QtPortalShortcuts::listen() {
   bus.connect({}, kPath, kInterface, "Activated", this,
               SLOT(activated(QDBusObjectPath, QString, qulonglong, QVariantMap, QDBusMessage)));
   bus.connect({}, kPath, kInterface, "ShortcutsChanged", this, SLOT(shortcutsChanged(QDBusMessage)));
-  portals_ = std::make_unique<QDBusServiceWatcher>(kService, bus, QDBusServiceWatcher::WatchForOwnerChange);
-  connect(portals_.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
-          [this](const QString&, const QString&, const QString& newOwner) { ownerChanged(newOwner); });
+  portals_ = watchOwner(bus, kService, [this](const QString& newOwner) { ownerChanged(newOwner); });
   registerProgram();
 }
 
 void QtPortalShortcuts::ownerChanged(const QString& newOwner) {
-  ++life_;
+  portal_.renew();
   forgetSession();
   if (!newOwner.isEmpty()) registerProgram();
 }
@@ -210,12 +207,10 @@ QString QtPortalShortcuts::pathFor(const char* kind, const QString& token) const
 /// `answered` is given the reply, be it an error, unless the portal has gone by then.
 void QtPortalShortcuts::call(const QDBusMessage& message,
                              std::function<void(const QDBusMessage& reply)> answered) {
-  auto* watcher = new QDBusPendingCallWatcher(QDBusConnection(kBus).asyncCall(message), this);
-  connect(watcher, &QDBusPendingCallWatcher::finished, this,
-          [this, watcher, life = life_, answered = std::move(answered)] {
-            watcher->deleteLater();
-            if (life == life_) answered(watcher->reply());
-          });
+  callWithoutWaiting(QDBusConnection(kBus), message, this,
+                     portal_.guard([answered = std::move(answered)](const QDBusPendingCall& call) {
+                       answered(call.reply());
+                     }));
 }
 
 /// A call whose result comes as a signal later, after the desktop's user has made up his mind.

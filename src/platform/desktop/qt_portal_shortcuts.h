@@ -15,6 +15,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/lifetime.h"
 #include "platform/desktop/qt_dbus_values.h"
 #include "platform/hot_key.h"
 #include "platform/preferences_store.h"
@@ -69,7 +70,7 @@ class QtPortalShortcuts : public QObject, public HotKey {
   PreferencesStore& preferences_;
   std::function<void(const std::string&)> onPress_;
   std::unique_ptr<QDBusServiceWatcher> portals_;
-  int life_ = 0;      ///< counts portals that came and went: answers to another are void
+  Lifetime portal_;   ///< of the portal that is asked: answers of an earlier one are void
   QString portal_;    ///< the unique name of the one that answers; empty while none is known
   QString session_;   ///< its path; empty while there is none
   int requests_ = 0;  ///< made so far

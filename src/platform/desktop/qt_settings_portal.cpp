@@ -3,11 +3,11 @@
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMetaType>
-#include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QDBusServiceWatcher>
 #include <QDBusVariant>
 #include <algorithm>
+
+#include "platform/desktop/qt_bus.h"
 
 using Groups = QMap<QString, QVariantMap>;
 Q_DECLARE_METATYPE(Groups)
@@ -41,11 +41,9 @@ QtSettingsPortal::QtSettingsPortal() {
   // at when it comes.
   bus.connect({}, kPath, kInterface, QStringLiteral("SettingChanged"), this,
               SLOT(settingChanged(QDBusMessage)));
-  portals_ = std::make_unique<QDBusServiceWatcher>(kService, bus, QDBusServiceWatcher::WatchForOwnerChange);
-  connect(portals_.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
-          [this](const QString&, const QString&, const QString& newOwner) {
-            if (!newOwner.isEmpty()) readAll();
-          });
+  portals_ = watchOwner(bus, kService, [this](const QString& newOwner) {
+    if (!newOwner.isEmpty()) readAll();
+  });
   readAll();
 }
 
@@ -55,10 +53,8 @@ void QtSettingsPortal::readAll() {
   QDBusMessage request =
       QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("ReadAll"));
   request << QStringList{kAppearance, kGnome, kKde};
-  auto* watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(request), this);
-  connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
-    watcher->deleteLater();
-    const QDBusPendingReply<Groups> reply = *watcher;
+  callWithoutWaiting(QDBusConnection::sessionBus(), request, this, [this](const QDBusPendingCall& call) {
+    const QDBusPendingReply<Groups> reply = call;
     portal_ = reply.reply().service();
     if (reply.isError()) return;
     const Groups groups = reply.value();

@@ -2,12 +2,11 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusServiceWatcher>
 #include <algorithm>
 #include <array>
 #include <utility>
 
+#include "platform/desktop/qt_bus.h"
 #include "platform/desktop/qt_dbus_menu.h"
 #include "platform/desktop/qt_status_icon.h"
 #include "platform/desktop/qt_status_notifier.h"
@@ -56,12 +55,10 @@ void QtStatusItem::install(Actions actions) {
   redraw();
   // No signal is bound to the watcher's name: Qt would ask the bus who owns it, and wait.
   bus.connect({}, kPath, kInterface, "StatusNotifierHostRegistered", this, SLOT(hostRegistered()));
-  watchers_ = std::make_unique<QDBusServiceWatcher>(kService, bus, QDBusServiceWatcher::WatchForOwnerChange);
-  connect(watchers_.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
-          [this](const QString&, const QString&, const QString& newOwner) {
-            isTaken_ = false;
-            if (!newOwner.isEmpty()) offer();
-          });
+  watchers_ = watchOwner(bus, kService, [this](const QString& newOwner) {
+    isTaken_ = false;
+    if (!newOwner.isEmpty()) offer();
+  });
   offer();
 }
 
@@ -80,11 +77,8 @@ void QtStatusItem::offer() {
                                                         QStringLiteral("RegisterStatusNotifierItem"));
   message << QtStatusNotifier::kPath;
   message.setAutoStartService(false);
-  auto* answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(message), this);
-  connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
-    answer->deleteLater();
-    isTaken_ = !answer->isError();
-  });
+  callWithoutWaiting(QDBusConnection::sessionBus(), message, this,
+                     [this](const QDBusPendingCall& reply) { isTaken_ = !reply.isError(); });
 }
 
 /// Some watchers take no item before there is a panel to show it.

@@ -2,19 +2,12 @@
 
 #include <xcb/xcb_keysyms.h>
 
-#include <QGuiApplication>
 #include <array>
-#include <cstdlib>
-#include <memory>
+
+#include "platform/desktop/qt_xcb.h"
 
 namespace brimle {
 namespace {
-
-struct Free {
-  void operator()(void* memory) const { std::free(memory); }
-};
-template <class Type>
-using Owned = std::unique_ptr<Type, Free>;  ///< what xcb gives away
 
 // Numbers of the X protocol (X.h, keysymdef.h, XKB.h) that xcb gives no names.
 constexpr xcb_keysym_t kT = 0x74, kAlt = 0xffe9, kSuper = 0xffeb, kNumLock = 0xff7f;
@@ -24,16 +17,10 @@ constexpr int kColumns = 4;  ///< two levels in each of two layouts
 constexpr std::uint16_t kModifiers = XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1 |
                                      XCB_MOD_MASK_2 | XCB_MOD_MASK_3 | XCB_MOD_MASK_4 | XCB_MOD_MASK_5;
 
-/// The connection to the X server the program is shown on; none where it is shown otherwise.
-xcb_connection_t* connectionOfQt() {
-  const auto* x11 = qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
-  return x11 ? x11->connection() : nullptr;
-}
-
 std::uint8_t firstXkbEvent(xcb_connection_t* connection) {
   constexpr std::string_view name = "XKEYBOARD";
   const auto cookie = xcb_query_extension(connection, name.size(), name.data());
-  const Owned<xcb_query_extension_reply_t> reply(xcb_query_extension_reply(connection, cookie, nullptr));
+  const xcb::Owned<xcb_query_extension_reply_t> reply(xcb_query_extension_reply(connection, cookie, nullptr));
   return reply && reply->present ? reply->first_event : 0;
 }
 
@@ -52,7 +39,7 @@ xcb_keycode_t keyOfT(xcb_connection_t* connection, xcb_key_symbols_t* symbols, x
 /// The modifier that a key of this symbol sets; the fallback where no key does.
 std::uint16_t modifierOf(xcb_keysym_t symbol, xcb_key_symbols_t* symbols,
                          const xcb_get_modifier_mapping_reply_t& map, std::uint16_t fallback) {
-  const Owned<xcb_keycode_t> keys(xcb_key_symbols_get_keycode(symbols, symbol));
+  const xcb::Owned<xcb_keycode_t> keys(xcb_key_symbols_get_keycode(symbols, symbol));
   const xcb_keycode_t* mapped = xcb_get_modifier_mapping_keycodes(&map);
   const int count = xcb_get_modifier_mapping_keycodes_length(&map);
   for (const xcb_keycode_t* key = keys.get(); key && *key != XCB_NO_SYMBOL; ++key) {
@@ -78,14 +65,14 @@ std::array<std::uint16_t, 4> withLocks(int modifiers, int numLock) {
 QtXcbKeyGrab::QtXcbKeyGrab() = default;
 
 QtXcbKeyGrab::~QtXcbKeyGrab() {
-  if (connection_ && connection_ == connectionOfQt()) release();
+  if (connection_ && connection_ == xcb::connectionOfQt()) release();
 }
 
 void QtXcbKeyGrab::install(std::function<void(const std::string& token)> onPress) {
   onPress_ = std::move(onPress);
-  connection_ = connectionOfQt();
+  connection_ = xcb::connectionOfQt();
   if (!connection_) return;
-  root_ = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
+  root_ = xcb::rootOf(connection_);
   xkbEvent_ = firstXkbEvent(connection_);
   qGuiApp->installNativeEventFilter(this);
   keyboard_ = readKeyboard();
@@ -94,7 +81,7 @@ void QtXcbKeyGrab::install(std::function<void(const std::string& token)> onPress
 
 QtXcbKeyGrab::Keyboard QtXcbKeyGrab::readKeyboard() const {
   const auto cookie = xcb_get_modifier_mapping(connection_);
-  const Owned<xcb_get_modifier_mapping_reply_t> map(
+  const xcb::Owned<xcb_get_modifier_mapping_reply_t> map(
       xcb_get_modifier_mapping_reply(connection_, cookie, nullptr));
   const std::unique_ptr<xcb_key_symbols_t, decltype(&xcb_key_symbols_free)> symbols(
       xcb_key_symbols_alloc(connection_), xcb_key_symbols_free);
@@ -127,7 +114,7 @@ bool QtXcbKeyGrab::grabWith(std::uint16_t modifiers) {
   for (const std::uint16_t variant : withLocks(modifiers, keyboard_.numLock)) {
     const auto cookie = xcb_grab_key_checked(connection_, false, root_, variant, keyboard_.t,
                                              XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
-    const Owned<xcb_generic_error_t> error(xcb_request_check(connection_, cookie));
+    const xcb::Owned<xcb_generic_error_t> error(xcb_request_check(connection_, cookie));
     isFree = isFree && !error;
   }
   modifiers_ = modifiers;
