@@ -18,7 +18,7 @@ Store::Ids Store::archivedIDsInOrder(std::string_view matching) const {
 
 void Store::prepareSearch() {
   if (archive().prepareSearch(kPreparedAtOnce)) return;
-  later(Seconds(0), [this] { prepareSearch(); });
+  time_.after(Seconds(0), life_.guard([this] { prepareSearch(); }));
 }
 
 void Store::removeArchived(const std::unordered_set<Uuid>& ids) {

@@ -23,7 +23,7 @@ Rect folded(const Rect& frame) {
 }
 
 Rect unfolded(const Rect& frame, double expandedHeight) {
-  return resized(frame, {frame.width, std::max(expandedHeight, kLeastUnfoldedHeight)});
+  return resized(frame, {frame.width, std::max(expandedHeight, kLeastSize.height)});
 }
 
 Rect resized(const Rect& frame, Size size) {

@@ -5,15 +5,9 @@
 #include <optional>
 
 #include "base/rect.h"
+#include "views/window_measures.h"
 
 namespace brimle {
-
-inline constexpr double kFoldedHeight = 34;
-inline constexpr double kLeastUnfoldedHeight = 200;
-
-inline constexpr Size kCompactSize{240, 280};
-inline constexpr Size kRegularSize{300, 400};
-inline constexpr Size kLargeSize{400, 600};
 
 Rect folded(const Rect& frame);
 /// The height to return to is raised to the least one.

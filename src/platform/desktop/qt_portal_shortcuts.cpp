@@ -90,7 +90,7 @@ void QtPortalShortcuts::listen() {
 }
 
 void QtPortalShortcuts::ownerChanged(const QString& newOwner) {
-  portal_.renew();
+  life_.renew();
   forgetSession();
   if (!newOwner.isEmpty()) registerProgram();
 }
@@ -208,7 +208,7 @@ QString QtPortalShortcuts::pathFor(const char* kind, const QString& token) const
 void QtPortalShortcuts::call(const QDBusMessage& message,
                              std::function<void(const QDBusMessage& reply)> answered) {
   callWithoutWaiting(QDBusConnection(kBus), message, this,
-                     portal_.guard([answered = std::move(answered)](const QDBusPendingCall& call) {
+                     life_.guard([answered = std::move(answered)](const QDBusPendingCall& call) {
                        answered(call.reply());
                      }));
 }

@@ -70,7 +70,7 @@ class QtPortalShortcuts : public QObject, public HotKey {
   PreferencesStore& preferences_;
   std::function<void(const std::string&)> onPress_;
   std::unique_ptr<QDBusServiceWatcher> portals_;
-  Lifetime portal_;   ///< of the portal that is asked: answers of an earlier one are void
+  Lifetime life_;     ///< of the portal that is asked: answers of an earlier one are void
   QString portal_;    ///< the unique name of the one that answers; empty while none is known
   QString session_;   ///< its path; empty while there is none
   int requests_ = 0;  ///< made so far

@@ -20,7 +20,7 @@ Item {
         + (tomorrow.text === "" ? 0 : tomorrow.implicitWidth + gap) + turn.implicitWidth + gap
     readonly property bool oneLine: folded || title.implicitWidth + besides <= room
 
-    implicitHeight: folded ? 34 : (oneLine ? title.y + title.height : count.y + count.height) + 8
+    implicitHeight: folded ? Theme.foldedHeight : (oneLine ? title.y + title.height : count.y + count.height) + 8
 
     Accessible.role: Accessible.Grouping
     Accessible.name: title.text
@@ -38,7 +38,7 @@ Item {
     Text {
         id: title
         x: header.leading
-        y: header.folded ? (34 - height) / 2 : 36
+        y: header.folded ? (Theme.foldedHeight - height) / 2 : 36
         width: Math.min(implicitWidth, (turn.visible ? turn.x - header.gap : turn.x + turn.width) - x)
         text: header.today.title
         textFormat: Text.PlainText

@@ -8,10 +8,6 @@ Window {
     required property Today today
     required property ArchiveScreen archive
 
-    width: 300
-    height: 400
-    minimumWidth: 230
-    minimumHeight: 200
     title: "Brimle"
     color: Theme.paper
 

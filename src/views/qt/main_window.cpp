@@ -13,6 +13,7 @@
 #include "base/limits.h"
 #include "views/qt/convert.h"
 #include "views/qt/key_events.h"
+#include "views/window_measures.h"
 
 Q_IMPORT_QML_PLUGIN(BrimlePlugin)
 
@@ -21,11 +22,13 @@ namespace {
 
 /// How long the window takes to fold, to unfold or to take a preset size, in milliseconds.
 constexpr int kResizing = 200;
-/// Of the window while it is not folded, in points.
-constexpr int kLeastHeight = 200;
 
 QUrl windowFile() {
   return QUrl(QStringLiteral("qrc:/qt/qml/Brimle/MainWindow.qml"));
+}
+
+QSize toQt(const Size& size) {
+  return QSizeF(size.width, size.height).toSize();
 }
 
 Rect rectOf(const QRect& rect) {
@@ -57,6 +60,8 @@ MainWindow::MainWindow(Today::Parts parts, Pasteboard& pasteboard, Foundation fo
   window_ = qobject_cast<QQuickWindow*>(engine_->rootObjects().constFirst());
   // Not in QML, where the first look at Qt's flags in a binding takes 10 ms: all of them are listed for it.
   window_->setFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+  window_->setMinimumSize(toQt(kLeastSize));
+  window_->resize(toQt(kRegularSize));
   window_->installEventFilter(this);
   connect(&today_, &Today::menuRequested, this, &MainWindow::openMenu);
   connect(theme_.get(), &Theme::changed, this, [this] { QApplication::setPalette(theme_->palette()); });
@@ -85,7 +90,7 @@ void MainWindow::setFrame(const Rect& frame) {
   const QRect target = QRectF(frame.x, frame.y, frame.width, frame.height).toRect();
   resizing_.stop();
   shownAt_ = target;
-  window_->setMinimumHeight(qMin(target.height(), kLeastHeight));
+  window_->setMinimumHeight(qMin(target.height(), static_cast<int>(kLeastSize.height)));
   if (theme_->reduceMotion() || !window_->isVisible()) return window_->setGeometry(target);
   resizing_.setStartValue(window_->geometry());
   resizing_.setEndValue(target);

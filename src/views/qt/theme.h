@@ -15,6 +15,7 @@
 #include "prefs/palette.h"
 #include "prefs/ui_state.h"
 #include "views/qt/fonts.h"
+#include "views/window_measures.h"
 
 namespace brimle {
 
@@ -32,6 +33,7 @@ class Theme : public QObject {
   Q_PROPERTY(QColor placeholder READ placeholder NOTIFY changed)
   Q_PROPERTY(double baseSize READ baseSize NOTIFY changed)
   Q_PROPERTY(double listInset READ listInset NOTIFY changed)
+  Q_PROPERTY(double foldedHeight READ foldedHeight CONSTANT)
   Q_PROPERTY(bool reduceMotion READ reduceMotion NOTIFY changed)
   Q_PROPERTY(bool focusShown READ focusShown NOTIFY focusShownChanged)
   Q_PROPERTY(QVariantList listSpring READ listSpring CONSTANT)
@@ -66,6 +68,8 @@ class Theme : public QObject {
   /// What font sizes are multiplied by.
   double textScale() const { return textScale_; }
   double listInset() const { return ui_.listInset(); }
+  /// Of the folded window, which is its header.
+  double foldedHeight() const { return kFoldedHeight; }
   bool reduceMotion() const { return reduceMotion_; }
   /// Whether controls show that they have the keyboard: from the key that moves it to the next click.
   bool focusShown() const { return focusShown_; }
