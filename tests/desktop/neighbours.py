@@ -44,13 +44,13 @@ class Neighbour:
             assert got == dbus.bus.REQUEST_NAME_REPLY_PRIMARY_OWNER, f"somebody else has the name {name}"
 
     def signal(self, path, interface, name, *arguments, signature):
-        message = dbus.lowlevel.SignalMessage(path, interface, name)
-        message.append(*arguments, signature=signature)
-        self._bus.send_message(message)
+        self._send(dbus.lowlevel.SignalMessage(path, interface, name), arguments, signature)
 
     def call(self, name, path, interface, method, *arguments, signature):
         """Sends a call and does not wait for what comes of it."""
-        message = dbus.lowlevel.MethodCallMessage(name, path, interface, method)
+        self._send(dbus.lowlevel.MethodCallMessage(name, path, interface, method), arguments, signature)
+
+    def _send(self, message, arguments, signature):
         message.append(*arguments, signature=signature)
         self._bus.send_message(message)
 
@@ -58,9 +58,9 @@ class Neighbour:
         """Sends a call and returns what is answered; raises where that is an error."""
         return self._bus.call_blocking(name, path, interface, method, signature, arguments)
 
-    def owner(self, name):
-        """The unique name of who owns a name; nothing where nobody does."""
-        return self._bus.get_name_owner(name) if self._bus.name_has_owner(name) else None
+    def sees(self, name):
+        """Whether somebody owns a name."""
+        return self._bus.name_has_owner(name)
 
     def end(self):
         self._bus.close()

@@ -1,56 +1,47 @@
-"""Typing tasks into the entry field."""
+"""Tasks that come into the day from outside: typed into the entry field, pasted; and rows that are copied."""
 import unittest
 
 import hands
-from case import ADD, DesktopCase, nextKey
+from case import ADD, EDIT, DesktopCase, nextKey
 
 
 class Adding(DesktopCase):
     def testReturnAddsWhatTheEntryLanguageSays(self):
-        self.start("old", "pinned!")
+        self.start("old")
         for typed, lists in [
-            ("milk", {"today": ["old", "pinned!", "milk"]}),
-            ("bread // rye // sliced", {"today": ["old", "pinned!", "milk", "bread / rye / sliced"]}),
-            ("rent !", {"today": ["rent!", "old", "pinned!", "milk", "bread / rye / sliced"]}),
-            ("tea *", {"today": ["rent!", "old", "pinned!", "milk", "bread / rye / sliced", "tea*"]}),
+            ("milk // rye", {"today": ["old", "milk / rye"]}),
+            (" ", {}),
+            ("rent !", {"today": ["rent!", "old", "milk / rye"]}),
             ("call mum >22/9", {"scheduled": [f"{nextKey(9, 22)} call mum!"]}),
         ]:
             with self.subTest(typed):
                 hands.enter(typed)
                 self.expectDay(**lists)
 
-    def testAltReturnAddsForTomorrow(self):
-        self.start()
-        hands.typeText("milk // oat")
-        hands.press("alt+Return")
-        self.expectDay(tomorrow=["milk / oat"])
+    def testAPasteOfSeveralLinesBecomesTasksWhateverHasTheKeyboard(self):
+        self.start("milk")
+        self.putOnClipboard("- bread\n  rye\n- tea !\n")
+        hands.press("ctrl+v")
+        self.expectDay(today=["tea!", "milk", "bread / rye"])
         self.waitForFocus(ADD, text="")
+        self.undoUntil(today=["milk"])
+        hands.doubleClick(self.row("milk").point(across=0.2))
+        self.waitForFocus(EDIT, "milk")
+        hands.press("ctrl+v")
+        self.expectDay(today=["tea!", "milk", "bread / rye"])
 
-    def testShiftReturnBreaksTheLineAndReturnAddsAllLines(self):
-        self.start()
-        hands.typeText("milk")
-        hands.press("shift+Return")
-        hands.typeText("  oat")
-        hands.press("shift+Return")
-        hands.typeText("bread")
-        self.waitForFocus(ADD, text="milk\n  oat\nbread")
-        hands.press("Return")
-        self.expectDay(today=["milk / oat", "bread"])
+    def testAPasteOfOneLineIsAnOrdinaryOne(self):
+        self.start("milk")
+        self.putOnClipboard("oat bread")
+        hands.press("ctrl+v")
+        self.waitForFocus(ADD, text="oat bread")
+        self.expectDay()
 
-    def testBlanksAddNothing(self):
-        self.start("old")
-        hands.press("space", "Return")
-        hands.enter("milk")
-        self.expectDay(today=["old", "milk"])
-
-    def testAnAddedTaskCanBeTakenBackAndAddedAgain(self):
-        self.start("old")
-        hands.enter("milk")
-        self.expectDay(today=["old", "milk"])
-        hands.press("ctrl+z")
-        self.expectDay(today=["old"])
-        hands.press("ctrl+shift+z")
-        self.expectDay(today=["old", "milk"])
+    def testSelectedRowsAreCopiedAsTheyCanBeTyped(self):
+        self.start("milk / oat / ", "bread", "tea! / green")
+        self.select("tea", ctrl=["milk"])
+        hands.press("ctrl+c")
+        self.expectCopied("milk // oat\ntea // green")
 
 
 if __name__ == "__main__":

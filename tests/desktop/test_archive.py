@@ -7,19 +7,21 @@ from case import ADD, EDIT, DesktopCase, dayKey, nextKey
 SEARCH = "Search archive"
 
 
-class ArchiveCase(DesktopCase):
+class Archive(DesktopCase):
     def openArchive(self):
         hands.click(self.window.find("button", "Archive").point())
         hands.moveTo(hands.NOWHERE)
-        self.archive = self.window.find("list", "Archive")
+        self.window.find("list", "Archive")
 
+    def openFuture(self):
+        self.openArchive()
+        hands.scrollUp(self.window.find("list").point())
+        self.window.find("heading", "Future days")
 
-class PastDays(ArchiveCase):
     def testSearchLooksThroughTextsAndNotes(self):
         self.start(archive=[f"{dayKey(-1)} milk+ / oat", f"{dayKey(-1)} bread", f"{dayKey(-9)} Oat cake+"])
         self.openArchive()
         self.window.find("heading", "Past days")
-        self.window.find("heading", "Yesterday")
         self.expectRows("milk", "bread", "Oat cake")
         hands.click(self.window.find("field", SEARCH).point())
         self.waitForFocus(SEARCH)
@@ -33,89 +35,55 @@ class PastDays(ArchiveCase):
         hands.press("Escape")
         self.waitForFocus(ADD)
 
-    def testSelectedEntriesAreBroughtBack(self):
-        self.start("tea", archive=[f"{dayKey(-1)} milk+ / oat", f"{dayKey(-1)} bread", f"{dayKey(-2)} eggs+"])
+    def testSelectedEntriesAreBroughtBackOrDeleted(self):
+        past = [f"{dayKey(-1)} milk+ / oat", f"{dayKey(-1)} bread", f"{dayKey(-2)} eggs+"]
+        self.start("tea", archive=past)
         self.openArchive()
-        hands.click(self.row("milk").point())
-        hands.click(self.row("eggs").point(), held="ctrl")
-        self.expectSelected("milk", "eggs")
+        self.select("milk", ctrl=["eggs"])
         self.choose(self.row("eggs"), "Bring back to today")
-        self.expectDay(today=["tea", "milk / oat", "eggs"], archive=[f"{dayKey(-1)} bread"])
+        self.expectDay(today=["tea", "milk / oat", "eggs"], archive=past[1:2])
         self.expectRows("bread")
-        hands.press("ctrl+z")
-        self.expectDay(today=["tea"],
-                       archive=[f"{dayKey(-1)} milk+ / oat", f"{dayKey(-1)} bread", f"{dayKey(-2)} eggs+"])
-
-    def testKeysSelectDeleteAndLeave(self):
-        self.start(archive=[f"{dayKey(-1)} milk+", f"{dayKey(-1)} bread", f"{dayKey(-2)} eggs+"])
-        self.openArchive()
+        self.undoUntil(today=["tea"], archive=past)
         self.expectRows("milk", "bread", "eggs")
         hands.press("Down", "shift+Down")
         self.expectSelected("milk", "bread")
         hands.press("Delete")
-        self.expectDay(archive=[f"{dayKey(-2)} eggs+"])
-        hands.press("ctrl+z")
-        self.expectDay(archive=[f"{dayKey(-1)} milk+", f"{dayKey(-1)} bread", f"{dayKey(-2)} eggs+"])
-        hands.press("ctrl+a")
-        self.expectSelected("milk", "bread", "eggs")
-        hands.press("Escape")
-        self.expectSelected()
-        hands.press("Escape")
-        self.waitForFocus(ADD)
+        self.expectDay(archive=past[2:])
 
-
-class DaysToCome(ArchiveCase):
-    def openFuture(self):
-        self.openArchive()
-        hands.scrollUp(self.archive.point())
-        self.window.find("heading", "Future days")
-
-    def edit(self, text, across):
-        """By double click, each time at another place, so that one is never the continuation of the last."""
-        hands.doubleClick(self.row(text).point(across, 0.2))
-        self.waitForFocus(EDIT, text)
-
-    def testReturnCommitsAndEscapeDropsWhatWasTyped(self):
+    def testATaskToComeIsEditedInItsRow(self):
+        """By double clicks, each at another place, so that one is never the continuation of the last."""
         self.start(scheduled=[f"{dayKey(1)} eggs / six", f"{dayKey(1)} tea"])
         self.openFuture()
-        self.edit("eggs", across=0.02)
+        hands.doubleClick(self.row("eggs").point(0.02, 0.2))
+        self.waitForFocus(EDIT, "eggs")
         hands.typeText(" and ham")
         self.waitForFocus(EDIT, "eggs and ham")
         hands.press("Escape")
         self.waitUntilClosed(EDIT)
         self.expectDay()
-        self.edit("eggs", across=0.1)
-        hands.enter(" and ham")
-        self.expectDay(scheduled=[f"{dayKey(1)} eggs and ham / six", f"{dayKey(1)} tea"])
-        self.waitUntilClosed(EDIT)
-        self.edit("eggs and ham", across=0.2)
-        hands.enter(" >22/9")
-        moved = [f"{dayKey(1)} tea", f"{nextKey(9, 22)} eggs and ham / six"]
-        self.expectDay(scheduled=moved)
-        self.undoUntil(scheduled=[f"{dayKey(1)} eggs / six", f"{dayKey(1)} tea"])
-
-    def testArrowsWalkFromTheTextToItsNotesAndBack(self):
-        self.start(scheduled=[f"{dayKey(1)} eggs / six"])
-        self.openFuture()
-        self.edit("eggs", across=0.02)
+        hands.doubleClick(self.row("eggs").point(0.1, 0.2))
         for key, shown in [("Down", "six"), ("Up", "eggs"), ("Tab", "six"), ("Down", "")]:
+            self.waitForFocus(EDIT)
             hands.press(key)
             self.waitForFocus(EDIT, shown)
         hands.enter("brown")
-        self.expectDay(scheduled=[f"{dayKey(1)} eggs / six / brown"])
+        self.expectDay(scheduled=[f"{dayKey(1)} eggs / six / brown", f"{dayKey(1)} tea"])
+        self.waitUntilClosed(EDIT)
+        hands.doubleClick(self.row("eggs").point(0.2, 0.2))
+        self.waitForFocus(EDIT, "eggs")
+        hands.enter(" >22/9")
+        self.expectDay(scheduled=[f"{dayKey(1)} tea", f"{nextKey(9, 22)} eggs / six / brown"])
+        self.undoUntil(scheduled=[f"{dayKey(1)} eggs / six", f"{dayKey(1)} tea"])
 
-    def testTheMenuAddsANoteMovesToTodayAndDeletes(self):
-        self.start("milk", scheduled=[f"{dayKey(1)} eggs", f"{dayKey(1)} tea!", f"{dayKey(2)} rice"])
+    def testTheMenuOfATaskToCome(self):
+        self.start("milk", scheduled=[f"{dayKey(1)} eggs", f"{dayKey(1)} tea!"])
         self.openFuture()
         self.choose(self.row("eggs"), "Add note")
         self.waitForFocus(EDIT)
         hands.enter("six")
-        self.expectDay(scheduled=[f"{dayKey(1)} eggs / six", f"{dayKey(1)} tea!", f"{dayKey(2)} rice"])
+        self.expectDay(scheduled=[f"{dayKey(1)} eggs / six", f"{dayKey(1)} tea!"])
         self.choose(self.row("tea"), "Move to today")
-        self.expectDay(today=["tea!", "milk"], scheduled=[f"{dayKey(1)} eggs / six", f"{dayKey(2)} rice"])
-        self.choose(self.row("rice"), "Delete")
-        self.expectDay(scheduled=[f"{dayKey(1)} eggs / six"])
-        self.undoUntil(today=["milk"], scheduled=[f"{dayKey(1)} eggs", f"{dayKey(1)} tea!", f"{dayKey(2)} rice"])
+        self.expectDay(today=["tea!", "milk"], scheduled=[f"{dayKey(1)} eggs / six"])
 
 
 if __name__ == "__main__":
