@@ -17,7 +17,6 @@ from desktop import DESKTOP
 from waiting import DEADLINE, waitUntil
 
 PROGRAM = os.environ.get("BRIMLE_PROGRAM", Path(__file__).parents[2] / "build/bin/brimle")
-PICTURES = Path(PROGRAM).parents[1] / "desktop-tests"
 ADD = "Add a task"
 EDIT = "Edit"
 
@@ -118,11 +117,7 @@ class DesktopCase(unittest.TestCase):
                 self.fail(f"the program ended with {self._program.returncode}; it said:\n{self._said()}")
             meanwhile()
             return condition()
-        try:
-            return waitUntil(conditionWhileItRuns, what)
-        except AssertionError:
-            DESKTOP.picture(PICTURES / f"{self.id()}.png")
-            raise
+        return waitUntil(conditionWhileItRuns, what)
 
     # The day file.
 

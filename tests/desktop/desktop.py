@@ -2,8 +2,6 @@
 it. Importing this starts it, and it is there until the process ends.
 """
 import os
-import subprocess
-from pathlib import Path
 
 from session import Session
 from waiting import waitUntil
@@ -26,10 +24,6 @@ class Desktop(Session):
         server, number = self.startAndRead(
             "Xvfb", "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-nolisten", "tcp", "-noreset", "-displayfd", "{fd}")
         return server, ":" + number
-
-    def picture(self, path):
-        Path(path).parent.mkdir(parents=True, exist_ok=True)
-        subprocess.run(["import", "-silent", "-window", "root", str(path)], check=False, timeout=30)
 
 
 DESKTOP = Desktop()

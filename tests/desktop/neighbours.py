@@ -4,7 +4,7 @@ it gets what the test says, answering nothing at all included.
 import os
 import socket
 import tempfile
-from pathlib import Path
+from contextlib import contextmanager
 
 import dbus
 import dbus.bus
@@ -75,17 +75,10 @@ class Neighbour:
         return _HANDLED
 
 
-class SilentBus:
-    """A socket that takes connections and never says a word."""
-
-    def __init__(self):
-        self._folder = tempfile.TemporaryDirectory(prefix="brimle-bus-")
-        path = Path(self._folder.name) / "bus"
-        self._socket = socket.socket(socket.AF_UNIX)
-        self._socket.bind(str(path))
-        self._socket.listen()
-        self.address = f"unix:path={path}"
-
-    def end(self):
-        self._socket.close()
-        self._folder.cleanup()
+@contextmanager
+def silentBus():
+    """A socket that takes connections and never says a word; its address."""
+    with tempfile.TemporaryDirectory(prefix="brimle-bus-") as folder, socket.socket(socket.AF_UNIX) as bus:
+        bus.bind(f"{folder}/bus")
+        bus.listen()
+        yield f"unix:path={folder}/bus"

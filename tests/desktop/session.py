@@ -35,10 +35,6 @@ class Session:
     def startScreen(self):
         raise NotImplementedError
 
-    def picture(self, path):
-        """The screen as it is now, to look at why a test failed."""
-        raise NotImplementedError
-
     def start(self, *command, **options):
         """A program on this desktop; its messages go to the log unless `options`, those of Popen, say otherwise."""
         process = subprocess.Popen(command, **({"stdout": self.log, "stderr": self.log} | options))

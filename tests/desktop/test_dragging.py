@@ -1,6 +1,5 @@
 """Dragging rows with the mouse: to another place of the list, to another program, and from there."""
 import sys
-import unittest
 from itertools import cycle
 from pathlib import Path
 
@@ -99,7 +98,3 @@ class Dragging(DesktopCase):
             self.waitForTitle(f"Text, welcome {drag}", self.dragTo(place))
             hands.letGo()
             self.expectDay(today=["bread", "milk", *dropped * drag])
-
-
-if __name__ == "__main__":
-    unittest.main()

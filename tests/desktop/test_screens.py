@@ -1,7 +1,6 @@
 """Screens that shrink, and a display that goes away, with no window manager to help."""
 import os
 import subprocess
-import unittest
 from unittest import mock
 
 import hands
@@ -44,7 +43,3 @@ class Screens(DesktopCase):
         hands.press("F6", "F6", "F6", "F6", "Return")  # folds the window: its frame is about to be saved
         DESKTOP.end(server)
         self.assertNotEqual(self.waitUntilEnded(), 0)
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -1,6 +1,5 @@
 """Settings and folders in every bad state: the program starts with what can be read of them, and works."""
 import os
-import unittest
 from pathlib import Path
 
 from case import DesktopCase, frame
@@ -44,7 +43,3 @@ class Settings(DesktopCase):
         self.expectInUse()
         self.quit()
         self.assertTrue((missing / "config/brimle/settings.ini").is_file())
-
-
-if __name__ == "__main__":
-    unittest.main()

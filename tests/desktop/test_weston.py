@@ -2,7 +2,6 @@
 import os
 import shutil
 import sys
-import unittest
 from pathlib import Path
 from unittest import mock
 
@@ -34,5 +33,3 @@ class Weston(DesktopCase):
 if not shutil.which("weston"):
     print("skipped: there is no weston here", file=sys.stderr)
     sys.exit(SKIPPED)
-if __name__ == "__main__":
-    unittest.main()

@@ -1,6 +1,4 @@
 """The window itself, its menu, and doing without the mouse."""
-import unittest
-
 import hands
 from case import ADD, PROGRAM, DesktopCase, dayKey, nextKey
 from desktop import DESKTOP
@@ -106,18 +104,3 @@ class WithoutTheMouse(DesktopCase):
                 hands.press("Up", "Return")
                 self.menus.waitUntilClosed()
                 self.expectDay(today=today)
-
-    def testTheArchiveIsOpenedAndLeft(self):
-        self.start("milk", archive=[f"{dayKey(-1)} eggs"])
-        hands.press("shift+F6", "shift+F6")
-        self.waitForFocus("Archive", role="button")
-        hands.press("space")
-        self.window.find("list", "Archive")
-        hands.press("Up", "Delete")
-        self.expectDay(archive=[])
-        hands.press("Escape")
-        self.waitForFocus(ADD)
-
-
-if __name__ == "__main__":
-    unittest.main()

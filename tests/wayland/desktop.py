@@ -5,9 +5,7 @@ sway refuses to run as root. There it runs as an ordinary user, who owns nothing
 on it stay with the user of the tests, to whom the socket is open.
 """
 import os
-import subprocess
 import sys
-from pathlib import Path
 
 from session import SKIPPED, Session
 from waiting import waitUntil
@@ -37,23 +35,19 @@ class Desktop(Session):
             user = {"user": ORDINARY_USER, "group": ORDINARY_USER, "extra_groups": []}
         environment = os.environ | {"XDG_RUNTIME_DIR": str(folder), "WLR_BACKENDS": "headless",
                                     "WLR_RENDERER": "pixman", "WLR_LIBINPUT_NO_DEVICES": "1"}
-        try:
-            sway = self.start("sway", "-c", str(configuration), env=environment, cwd=folder, **user)
-        except OSError as error:
-            self._skip(error)
+        sway = self._startOrSkip("sway", "-c", str(configuration), env=environment, cwd=folder, **user)
         waitUntil(lambda: sway.poll() is not None or self._sockets(folder), "sway was ready")
         if sway.poll() is not None:
             self._skip((self.home / "log").read_text(encoding="utf-8"))
         [os.environ["SWAYSOCK"]] = map(str, folder.glob("sway-ipc.*.sock"))
         [os.environ["WAYLAND_DISPLAY"]] = [str(path) for path in folder.glob("wayland-*") if path.is_socket()]
+        self._startOrSkip("wtype", "-s", A_LONG_TIME)
+
+    def _startOrSkip(self, *command, **options):
         try:
-            self.start("wtype", "-s", A_LONG_TIME)
+            return self.start(*command, **options)
         except OSError as error:
             self._skip(error)
-
-    def picture(self, path):
-        Path(path).parent.mkdir(parents=True, exist_ok=True)
-        subprocess.run(["grim", str(path)], check=False, timeout=30)
 
     @staticmethod
     def _sockets(folder):

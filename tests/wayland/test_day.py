@@ -1,6 +1,4 @@
 """The program on Wayland: a day by the keyboard alone, beside a portal that never answers."""
-import unittest
-
 import hands
 from case import DesktopCase, dayKey
 from neighbours import Neighbour
@@ -27,7 +25,3 @@ class Wayland(DesktopCase):
             hands.press("Return")
             self.until(lambda: self.window.box[3] == height, lambda: f"the window was {height} high; it is {self.window.box}")
         self.quit()
-
-
-if __name__ == "__main__":
-    unittest.main()
