@@ -9,21 +9,6 @@ using testing::IsEmpty;
 
 using MenuTest = AppTest;
 
-TEST_F(MenuTest, IsInTheLanguageThatIsChosen) {
-  preferences.setString("language", "en");
-  launch("A");
-  EXPECT_TRUE(menus.choose("3/Language/Deutsch"));
-  EXPECT_EQ(menus.installs, 2);
-  std::string titles;
-  for (const Menu& menu : menus.bar) titles += menu.title + "(" + menu.items.back().title + ") ";
-  EXPECT_EQ(titles,
-            "(Brimle beenden) Datei(Als Aufgaben einfügen) Bearbeiten(Alles auswählen) "
-            "Ansicht(Auf Standard zurücksetzen) Fenster(Groß) Hilfe(Feedback senden) ");
-  EXPECT_THAT(ticked(), testing::Contains("Sprache/Deutsch"));
-  EXPECT_EQ(status.tooltip, "1 Aufgabe");
-  EXPECT_EQ(preferences.string("language"), "de");
-}
-
 TEST_F(MenuTest, TicksEachSettingThatIsChosenInEveryLanguage) {
   const std::map<std::string_view, const char*> keys = {{"", "appearance"},
                                                         {"Paper", "paperTone"},
@@ -84,7 +69,7 @@ TEST_F(MenuTest, PutsInForceWhatIsChosen) {
 TEST_F(MenuTest, ResetsToTheDefaults) {
   preferences.values = {{"appearance", "dark"}, {"paperTone", "plain"}, {"fontDesign", "serif"},
                         {"textSize", "large"},  {"margin", "flush"},    {"language", "en"}};
-  launch();
+  launch("A");
   press("3");
   ui->setCompact(true);
   time.runUntilIdle();
@@ -97,6 +82,7 @@ TEST_F(MenuTest, ResetsToTheDefaults) {
   EXPECT_EQ(application.forcedDark, std::nullopt);
   EXPECT_EQ(window.at, (Rect{100, 50, 300, 400}));
   EXPECT_EQ(menus.bar.at(1).title, "Fichier");
+  EXPECT_EQ(status.tooltip, "1 tâche");
   EXPECT_EQ(ticked().size(), 6u);
 }
 

@@ -1,6 +1,4 @@
 // The main window: how it folds and is sized, and the frame that is kept of it.
-#include <limits>
-
 #include "app/app_fixture.h"
 #include "app/core/window_frame.h"
 
@@ -110,15 +108,6 @@ TEST_F(WindowTest, StartsAtItsUsualPlaceWhereTheKeptFrameIsNone) {
     launch();
     EXPECT_EQ(window.at, kUsual) << broken;
   }
-}
-
-TEST(WindowFrame, IsReadAsItWasWritten) {
-  for (const Rect& frame :
-       {Rect{0, 0, 300, 400}, Rect{-1919.75, 1e5, 100 / 3.0, 99'999.9}, Rect{1, 2, 1, 1}}) {
-    EXPECT_EQ(readFrame(frameText(frame)), frame);
-  }
-  const double infinite = std::numeric_limits<double>::infinity();
-  EXPECT_EQ(readFrame(frameText({infinite, 0, 300, 400})), std::nullopt);
 }
 
 TEST_F(WindowTest, ComesOntoAScreenWhereItIsOnNoneOrLargerThanAll) {

@@ -44,7 +44,7 @@ TEST_F(ArchiveViewTest, IsATimelineOfWhatIsToComeAndWhatHasBeen) {
        "[Sat 20 Jun] milk [Today] [Yesterday] milk B [Friday 12 June] Cumilk "},
   };
   for (const auto& [lists, query, expected] : rows) {
-    begin(lists);
+    start(lists);
     ui.setArchiveQuery(query);
     EXPECT_EQ(timeline(), expected);
     const auto shown = archive->rows();
@@ -53,13 +53,13 @@ TEST_F(ArchiveViewTest, IsATimelineOfWhatIsToComeAndWhatHasBeen) {
 }
 
 TEST_F(ArchiveViewTest, KeepsTheKeysOfRowsThatStay) {
-  begin("||20:P|14:Ax 14:B 12:C 14:D");
+  start("||20:P|14:Ax 14:B 12:C 14:D");
   I18n::setLang("de");
   EXPECT_EQ(timeline(),
             "[Sa. 20. Juni] P [Heute] [Gestern] Ax [Gestern] B [Freitag 12. Juni] C [Gestern] D ");
   const auto before = keys;
   const TimelineRow heading = archive->rows()[0];
-  act("search:b unschedule:P");
+  play("search:b unschedule:P");
   EXPECT_EQ(timeline(), "[Heute] [Gestern] B ");
   EXPECT_EQ(keys, (std::vector{before[2], before[5], before[6]}));
   EXPECT_EQ(archive->title(heading), "") << "its entry has gone";
@@ -102,7 +102,7 @@ TEST_F(ArchiveViewTest, DoesWhatItsMenusSay) {
           "show:archive click:C click:shift+A menu:B=Bring_back_to_today -> @C >A => T A' B' C' | | 20:P/n",
           "show:archive click:C menu:A=Bring_back_to_today -> C @C >C => T A' | | 20:P/n | 14:B 13:C",
           "show:archive click:B click:shift+A menu:A=Delete -> @B >A => T | | 20:P/n | 13:C"});
-  begin("||20:P|14:A");
+  start("||20:P|14:A");
   std::string titles;
   for (const TimelineRow& one : archive->rows()) {
     for (const MenuEntry& item : archive->menu(one)) titles += item.title + ",";
@@ -112,7 +112,7 @@ TEST_F(ArchiveViewTest, DoesWhatItsMenusSay) {
 
 TEST_F(ArchiveViewTest, EditsNothingThatIsTooLongToBeShownWhole) {
   const std::string text(kLongestShown + 1, 'x'), task = text + "/" + text;
-  begin(task + "||20:" + task);
+  start(task + "||20:" + task);
   const Uuid id = store->items()[0].id, entry = store->scheduled()[0].id;
   row->beginEdit(id);
   row->beginNoteEdit(id, 0);
@@ -122,7 +122,7 @@ TEST_F(ArchiveViewTest, EditsNothingThatIsTooLongToBeShownWhole) {
 }
 
 TEST_F(ArchiveViewTest, IsNamedAndCountedInTheHeader) {
-  begin("A B+ | T | | 14:X,Y 13:Z");
+  start("A B+ | T | | 14:X,Y 13:Z");
   const ContentView content(*store, time);
   const std::pair<const char*, std::string> rows[] = {
       {"tick:B", dateLine(time.today()) + ";2 tasks;tomorrow: 1;T"},
@@ -131,7 +131,7 @@ TEST_F(ArchiveViewTest, IsNamedAndCountedInTheHeader) {
       {"search:w", "Future days;;;"},
       {"show:today tick:A tick:B wait:2", dateLine(time.today()) + ";all done!;tomorrow: 1;T"}};
   for (const auto& [script, header] : rows) {
-    act(script);
+    play(script);
     const auto [title, count, label, tooltip] = headerLook(content, *archive, ui);
     EXPECT_EQ(title + ";" + count.text + (count.allDone ? "!;" : ";") + label + ";" + tooltip, header);
   }

@@ -17,10 +17,10 @@ TEST_F(ContentReactionsTest, GiveUpWhatWasSelectedForTheEntryFieldAndTheSearch) 
           "show:archive click:X search:x -> @X >X; click:X search:x compact show:archive -> X @X >X",
           "show:archive click:X show:today show:archive -> @X >X",
           "click:B show:archive click:X search:y show:today -> B @B >B"});
-  begin("A");
-  act("show:archive search:x compact show:archive");
+  start("A");
+  play("show:archive search:x compact show:archive");
   EXPECT_EQ(ui.archiveQuery(), "x") << "only leaving clears it";
-  act("show:today");
+  play("show:today");
   EXPECT_EQ(ui.archiveQuery(), "");
 }
 
@@ -33,15 +33,15 @@ TEST_F(ContentReactionsTest, TakeATaskOutOfTheSelectionWhenItsEditingEnds) {
 }
 
 TEST_F(ContentReactionsTest, ShowTheEntryFieldWhenSomebodyWantsToType) {
-  begin("A");
+  start("A");
   std::string seen;
   const auto wanted = reactions->onFocusAdd([&] {
     seen += ui.compact() ? "compact;" : ui.showingArchive() ? "archive;" : "field" + ui.archiveQuery() + ";";
   });
   const auto changed = ui.observe([&] { seen += "change "; });
-  act("wanted");
+  play("wanted");
   EXPECT_EQ(seen, "field;");
-  act("compact show:archive search:x wanted show:archive wanted compact wanted");
+  play("compact show:archive search:x wanted show:archive wanted compact wanted");
   EXPECT_EQ(split(seen, ';').size(), 4u);
   EXPECT_TRUE(seen.ends_with("field;change change field;change change field;")) << seen;
 }
@@ -50,8 +50,8 @@ TEST_F(RowDragTest, MovesTheTaskAlongWithThePointer) {
   expect("A B C", {"drag:C over:A -> => C A B; over:A -> => A C B; over:C ->; dragend over:A ->", "over:A ->",
                    "drag:A over:B over:C -> => B C A", "drag:Z over:A drag:A over:Z ->",
                    "drag:C dropped:=D over:A ->; dropped:=D\n\tn\nE -> => A B C D'/n E'"});
-  begin("A B");
-  act("drag:A over:A");
+  start("A B");
+  play("drag:A over:A");
   EXPECT_EQ(files.replaces(kFile), 0);
 }
 

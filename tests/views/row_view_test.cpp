@@ -30,15 +30,15 @@ TEST_F(RowViewTest, SendsATaskWhoseTextEndsInADateToThatDayPinned) {
       {"click:A click:cmd+B edit:A write:A=_call_>20/6_ end:A -> B @B >B => B | | 20:call'*!^/n",
        "edit:A write:A=x_>_2026-06-20 blur:A -> => B | | 20:x'*!^/n",
        "edit:A write:A=_>20/6 end:A -> => >20/6'*^/n B", "edit:A write:A=x_>fri end:A -> => x >fri'*^/n B"});
-  begin("A");
-  act("edit:A write:A=x_>20/6");
+  start("A");
+  play("edit:A write:A=x_>20/6");
   const int saves = files.replaces(kFile);
-  act("end:A");
+  play("end:A");
   EXPECT_EQ(files.replaces(kFile), saves + 1) << "no save lacks the task";
 }
 
 TEST_F(RowViewTest, HintsAtTheDayOfADateToken) {
-  begin("A");
+  start("A");
   EXPECT_EQ(row->dateHint("x >20/6 !") + archive->dateHint(">20/6") + row->dateHint("x >3 marzo"), "");
   I18n::setLang("es");
   EXPECT_EQ(row->dateHint("x >3 marzo"), "→ " + prettyDay("2027-03-03"));
@@ -79,7 +79,7 @@ TEST_F(RowViewTest, AddsANoteAndOpensIt) {
 
 TEST_F(RowViewTest, OffersInItsMenuWhatItsTaskIsNot) {
   const auto menu = [&](std::string_view task) {
-    begin(task);
+    start(task);
     std::string text;
     for (const MenuEntry& item : row->menu(idOf("A"))) {
       text += (item.on ? *item.on ? "+" : "-" : "") + item.title;
