@@ -1,6 +1,6 @@
 """The window itself, its menu, and doing without the mouse."""
 import hands
-from case import ADD, PROGRAM, DesktopCase, dayKey, nextKey
+from case import ADD, PROGRAM, DesktopCase, dayKey
 from desktop import DESKTOP
 from neighbours import Neighbour, reply
 from waiting import waitUntil
@@ -69,14 +69,6 @@ class MainMenu(DesktopCase):
             hands.press("Escape")
             self.until(lambda: not self.app.all("window", "Shortcuts"), "the card was closed")
             self.waitForFocus(ADD)
-
-    def testTurnsToAnotherLanguageAtOnce(self):
-        self.start("milk")
-        self.chooseFromMainMenu("View", "Language", "Deutsch")
-        hands.enter("brot >22.9.")
-        self.expectDay(scheduled=[f"{nextKey(9, 22)} brot!"])
-        self.choose(self.row("milk"), "Hervorheben")
-        self.expectDay(today=["milk^"])
 
 
 class WithoutTheMouse(DesktopCase):
