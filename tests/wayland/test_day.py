@@ -1,14 +1,12 @@
 """The program on Wayland: a day by the keyboard alone, beside a portal that never answers."""
 import hands
-from case import DesktopCase, dayKey
+from case import dayKey
 from neighbours import Neighbour
 from waiting import waitUntil
+from weston import WestonCase
 
 
-class Wayland(DesktopCase):
-    def focused(self, role):
-        return [control.name for control in self.window.all(role) if control.focused]
-
+class Wayland(WestonCase):
     def testADayByTheKeyboardAlone(self):
         portal = Neighbour("org.freedesktop.portal.Desktop")
         self.addCleanup(portal.end)
@@ -20,7 +18,8 @@ class Wayland(DesktopCase):
         self.expectSelected("tea")
         hands.press("space")
         self.expectDay(today=["old", "milk / oat"], archive=[f"{dayKey()} tea+"])
-        self.until(lambda: self.focused("heading"), "the title had the keyboard", meanwhile=lambda: hands.press("F6"))
+        hands.press("shift+F6", "shift+F6")
+        self.waitForFocus(self.window.find("heading").name, role="heading")
         for height in 34, 400:
             hands.press("Return")
             self.until(lambda: self.window.box[3] == height, lambda: f"the window was {height} high; it is {self.window.box}")
