@@ -5,7 +5,6 @@
 namespace brimle {
 namespace {
 
-using testing::ElementsAre;
 using testing::HasSubstr;
 
 using AppDelegateTest = AppTest;
@@ -44,19 +43,15 @@ TEST_F(AppDelegateTest, CountsTheTasksThatAreOpenAndDoNotRest) {
 }
 
 TEST_F(AppDelegateTest, HasAMenuBehindTheStatusItem) {
-  preferences.setString("language", "en");
   launch("A");
-  const auto menu = status.actions.menu();
-  std::vector<std::string> titles;
-  for (const MenuEntry& item : menu) titles.push_back(item.title);
-  EXPECT_THAT(titles, ElementsAre("1 task", "", "New Task", "", "Quit Brimle"));
-  EXPECT_FALSE(menu[0].action);
-  asked();
-  menu[2].action();
-  menu[4].action();
-  EXPECT_EQ(asked(), (Journal{"activated", "window in front", "focus", "quit"}));
   app->perform(Command::setLanguage, "de");
-  EXPECT_EQ(status.actions.menu()[2].title, "Neue Aufgabe");
+  const auto menu = status.actions.menu();
+  EXPECT_FALSE(menu.at(0).action);
+  EXPECT_EQ(menu.at(2).title, "Neue Aufgabe");
+  asked();
+  menu.at(2).action();
+  menu.at(4).action();
+  EXPECT_EQ(asked(), (Journal{"activated", "window in front", "focus", "quit"}));
 }
 
 TEST_F(AppDelegateTest, ComesForwardForAQuickEntryHoweverItIsAsked) {

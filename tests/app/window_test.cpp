@@ -102,7 +102,7 @@ TEST_F(WindowTest, ComesBackWhereItWas) {
 
 TEST_F(WindowTest, StartsAtItsUsualPlaceWhereTheKeptFrameIsNone) {
   for (const char* broken : {"", "1 2 300", "1 2 300 400 ", "1 2 300 400 5", " 1 2 300 400", "1,2,300,400",
-                             "1 2 nan 400", "inf 2 300 400", "1 -1000000000 300 400", "1 2 1e999 400",
+                             "nan 2 300 400", "inf 2 300 400", "1 -1000000000 300 400", "1 2 1e999 400",
                              "1 2 0 400", "1 2 300 -400", "one 2 300 400"}) {
     preferences.setString(kFrameKey, broken);
     launch();

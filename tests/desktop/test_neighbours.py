@@ -107,10 +107,7 @@ class Neighbours(DesktopCase):
         self.expectInUse()
 
     def testBusesThatNeverAnswer(self):
-        for names in [("SESSION", "SYSTEM"), ("SYSTEM",)]:
-            with self.subTest(names):
-                self.doCleanups()
-                address = self.enterContext(silentBus())
-                self.remindNow()
-                self.startElsewhere("milk", **{f"DBUS_{name}_BUS_ADDRESS": address for name in names})
-                self.expectInUse()
+        address = self.enterContext(silentBus())
+        self.remindNow()
+        self.startElsewhere("milk", DBUS_SESSION_BUS_ADDRESS=address, DBUS_SYSTEM_BUS_ADDRESS=address)
+        self.expectInUse()

@@ -17,9 +17,7 @@ def write(content):
 class Settings(DesktopCase):
     def testWhatCannotBeReadIsLeftAside(self):
         for what, prepare in {
-            "broken lines": lambda: write(b"[[[\n=x\nfoo\n\\\n[a\n%%%=1\ntextSize=\n[General\n"),
             "no text, and long": lambda: write(bytes(range(256)) * 40000),
-            "no numbers": lambda: write(frame("nan nan inf 400").encode()),
             "a far place and a large size": lambda: write(frame("90000 -90000 99999 99999").encode()),
             "a folder in the place of the file": lambda: FILE.mkdir(parents=True),
             "a file in the place of the folder": lambda: FOLDER.write_bytes(b"mine"),

@@ -45,23 +45,15 @@ class Editing(DesktopCase):
         self.expectDay(today=["milk"], scheduled=[f"{nextKey(9, 22)} call mum! / ask for her number"])
         self.undoUntil(today=["call / ask for her number", "milk"], scheduled=[])
 
-    def testReturnEditsTheSelectedRowAndEscapeOrAClickElsewhereCommits(self):
+    def testAClickElsewhereCommitsAlsoWhereNothingTakesTheKeyboard(self):
         self.start("milk", "bread")
-        self.select("bread")
-        hands.press("Return")
-        self.waitForFocus(EDIT, "bread")
-        hands.press("Home")
-        hands.typeText("rye ")
-        hands.press("Escape")
-        self.expectDay(today=["milk", "rye bread"])
-        self.waitUntilClosed(EDIT)
-        self.expectSelected()
-        self.openByDoubleClick("milk")
-        hands.typeText("shake")
-        hands.click(self.window.find("field", ADD).point())
-        self.waitForFocus(ADD)
-        self.waitUntilClosed(EDIT)
-        self.expectDay(today=["milkshake", "rye bread"])
+        for elsewhere, text in [(self.window.find("field", ADD), "milk"), (self.window.find("list"), "oat milk")]:
+            self.openByDoubleClick(text)
+            hands.press("Home")
+            hands.typeText("oat ")
+            hands.click(elsewhere.point(down=0.9))
+            self.waitUntilClosed(EDIT)
+            self.expectDay(today=["oat " + text, "bread"])
 
     def testKeysWalkThroughTheNotesAndMakeAndDropBlankOnes(self):
         self.start("milk / oat", "bread")
@@ -92,7 +84,7 @@ class Editing(DesktopCase):
 
 
 class Selecting(DesktopCase):
-    def testClicksWithControlAndShiftAndArrows(self):
+    def testClicksWithControlAndShiftAndKeys(self):
         self.start("milk", "bread", "tea", "eggs", "rice")
         for text, held, selected in [
             ("bread", None, ["bread"]),
@@ -112,8 +104,12 @@ class Selecting(DesktopCase):
                 self.expectSelected(*selected)
         hands.press("ctrl+Up")
         self.expectDay(today=["bread", "milk", "tea", "eggs", "rice"])
+        hands.press("Return")
+        self.waitForFocus(EDIT, "bread")
+        hands.typeText(" rye")
         hands.press("Escape")
-        self.waitForFocus(ADD)
+        self.expectDay(today=["bread rye", "milk", "tea", "eggs", "rice"])
+        self.waitUntilClosed(EDIT)
         self.expectSelected()
 
     def testKeysAndADotActOnAllAndUndoBringsThemBack(self):

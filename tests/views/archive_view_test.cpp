@@ -74,7 +74,8 @@ TEST_F(ArchiveViewTest, EditsAScheduledTaskInADraft) {
           "open:P unschedule:P draft:=x commit -> => | | 22:Q",
           "open:P.1 draft:=\tx commit -> => | | 20:P/m/x 22:Q",
           "open:P.0 draft:=\t commit -> => | | 20:P/n 22:Q",
-          "open:P.1 draft:= open:P.0 -> P.0:m => | | 20:P/m 22:Q", "open:P.0 draft:=x cancel ->",
+          "open:P.1 draft:= open:P.0 -> P.0:m => | | 20:P/m 22:Q",
+          "open:P.0 draft:=\t open:P.1 -> P.0:n => | | 20:P/n 22:Q", "open:P.0 draft:=x cancel ->",
           "open:P.2 ->", "open:P.0 open:Z.0 ->", "open:P.0 draft:=x open:Q -> Q:Q => | | 20:P/x/n 22:Q",
           "cancel next back ->"});
 }
@@ -122,14 +123,14 @@ TEST_F(ArchiveViewTest, EditsNothingThatIsTooLongToBeShownWhole) {
 }
 
 TEST_F(ArchiveViewTest, IsNamedAndCountedInTheHeader) {
-  start("A B+ | T | | 14:X,Y 13:Z");
+  start("A B+ | T U | | 14:X,Y 13:Z");
   const ContentView content(*store, time);
   const std::pair<const char*, std::string> rows[] = {
-      {"tick:B", dateLine(time.today()) + ";2 tasks;tomorrow: 1;T"},
+      {"tick:B", dateLine(time.today()) + ";2 tasks;tomorrow: 2;T\nU"},
       {"show:archive", "Past days;3 tasks;;"},
       {"search:y future", "Future days;1 task;;"},
       {"search:w", "Future days;;;"},
-      {"show:today tick:A tick:B wait:2", dateLine(time.today()) + ";all done!;tomorrow: 1;T"}};
+      {"show:today tick:A tick:B wait:2", dateLine(time.today()) + ";all done!;tomorrow: 2;T\nU"}};
   for (const auto& [script, header] : rows) {
     play(script);
     const auto [title, count, label, tooltip] = headerLook(content, *archive, ui);

@@ -56,6 +56,7 @@ TEST_F(RowViewTest, EditsANoteInPlace) {
 TEST_F(RowViewTest, ClosesTheOpenNoteBeforeItOpensAnother) {
   expect("A/l/m/n B/o/p", {"edit:A.0 write:A.0=\t edit:A.2 -> note:A.1 => A/m/n B/o/p",
                            "edit:A.2 write:A.2= edit:A.0 -> note:A.0 => A/l/m B/o/p",
+                           "edit:A.0 write:A.0= edit:A.0 -> note:A.0 => A/m/n B/o/p",
                            "edit:A.0 write:A.0=\tx edit:A.1 -> note:A.1 => A/x/m/n B/o/p",
                            "edit:A.0 write:A.0= edit:B.1 -> note:B.1 => A/m/n B/o/p"});
 }
