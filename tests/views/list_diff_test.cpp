@@ -56,18 +56,17 @@ TEST(ListDiff, LeadsFromAnyListToAnyOther) {
 }
 
 TEST(ListDiff, TakesOneStepForOneRowMovedAndForNeighboursInAnyNumberOfRows) {
-  for (const std::uint32_t count : {7u, 200'000u}) {
+  for (const std::uint32_t count : {7u, 20'000u}) {
     const Rows all = rows(count);
-    for (const std::size_t from : {0u, 3u, count - 1}) {
-      for (const std::size_t to : {0u, 4u, count - 1}) {
-        const Rows moved = applied(all, {}, {{Kind::move, from, 1, to}});
-        EXPECT_EQ(rowChanges(all, moved).size(), from == to ? 0u : 1u) << from << " " << to;
-        Rows fewer = all;
-        fewer.erase(fewer.begin() + std::min(from, to), fewer.begin() + std::max(from, to));
-        EXPECT_EQ(rowChanges(all, fewer).size(), from == to ? 0u : 1u);
-        EXPECT_EQ(rowChanges(fewer, all).size(), from == to ? 0u : 1u);
-      }
+    for (const auto& [from, to] : {std::pair(0u, count - 1), {count - 1, 0u}, {3u, 4u}, {4u, 2u}}) {
+      const Rows moved = applied(all, {}, {{Kind::move, from, 1, to}});
+      EXPECT_EQ(rowChanges(all, moved).size(), 1u) << from << " " << to;
+      Rows fewer = all;
+      fewer.erase(fewer.begin() + std::min(from, to), fewer.begin() + std::max(from, to));
+      EXPECT_EQ(rowChanges(all, fewer).size(), 1u);
+      EXPECT_EQ(rowChanges(fewer, all).size(), 1u);
     }
+    EXPECT_TRUE(rowChanges(all, all).empty());
   }
 }
 
