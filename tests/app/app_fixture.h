@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <map>
 #include <optional>
 #include <string>
 
@@ -54,13 +55,22 @@ class AppTest : public testing::Test {
 
   /// Launches the program with these lists of this day of June.
   void launch(std::string_view lists = "", const std::string& day = "15") {
+    openDay(lists, day);
+    begin(window, menus, shortcuts);
+  }
+
+  void openDay(std::string_view lists, const std::string& day = "15") {
     app.reset();
     time.setClock(time.at("2026-06-" + day + " 09:00"));
     files.put("/data/today.json", document(lists, day));
     store.emplace(Store::Ports{time, files, desktop, center}, Region{}, "/data");
     ui.emplace(preferences, std::vector<std::string>{"fr"});
-    app.emplace(AppDelegate::Ports{time, desktop, preferences, pasteboard, center, application, window, menus,
-                                   status, hotKey, loginItem, updates, shortcuts, links},
+  }
+
+  /// Launches the program on the day that is open.
+  void begin(AppWindow& in, MenuHost& with, ShortcutsPanel& card) {
+    app.emplace(AppDelegate::Ports{time, desktop, preferences, pasteboard, center, application, in, with,
+                                   status, hotKey, loginItem, updates, card, links},
                 *store, *ui, todayFocusAdd, "help@brimle.invalid");
     app->finishedLaunching();
     time.runUntilIdle();

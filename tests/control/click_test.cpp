@@ -30,20 +30,6 @@ TEST_F(Click, AwayDeselectsWhereTheClickLeavesTheSelectionAsItWas) {
                  "click:A show:archive release: wait:0 show:today -> A @A >A"});
 }
 
-TEST(ClickRange, IsWhatLiesBetweenAnchorAndRowWhateverWasSelected) {
-  const RowOrder order = {idOf("A"), idOf("B"), idOf("C"), idOf("D"), idOf("E")};
-  for (std::size_t anchor = 0; anchor < order.size(); ++anchor) {
-    for (std::size_t row = 0; row < order.size(); ++row) {
-      const RowSelection before{{idOf("A"), idOf("E"), idOf("Z")}, order[anchor], {}};
-      RowSelection after{{}, order[anchor], order[row]};
-      for (std::size_t at = 0; at < order.size(); ++at) {
-        if ((anchor <= at && at <= row) || (row <= at && at <= anchor)) after.ids.insert(order[at]);
-      }
-      EXPECT_EQ(clickedRow(before, order[row], order, Modifier::shift), after) << anchor << " to " << row;
-    }
-  }
-}
-
 TEST_F(Click, OnARowsControlsActsOnTheSelectionItIsIn) {
   expect("A B+^ C",
          {"click:A click:cmd+B tick:A -> A B @B >B => A+ B+^ C; tick:B -> A B @B >B => A B^ C",

@@ -39,7 +39,7 @@ inline KeyPress chord(std::string_view text) {
 
 class ControlTest : public StoreTest {
  protected:
-  void start(std::string_view text) {
+  virtual void start(std::string_view text) {
     Lists start = lists(text);
     std::vector<ArchiveDay> days(start.archive.begin(), start.archive.end());
     for (auto& day : days) {
@@ -50,7 +50,7 @@ class ControlTest : public StoreTest {
     sel.emplace(time);
     away.emplace(*sel, ui, time);
     focused = false;
-    play("show:today search: keyboard:window");
+    ControlTest::play("show:today search: keyboard:window");
   }
 
   RowList shown() const { return ui.showingArchive() ? RowList::archive : RowList::today; }
@@ -76,7 +76,7 @@ class ControlTest : public StoreTest {
     return filter.filter(chord(key), {keyboard != "elsewhere", keyboard == "field"});
   }
 
-  void play(std::string_view script) {
+  virtual void play(std::string_view script) {
     RowCommands row(*store, *sel);
     ArchiveCommands entry(*store, *sel, ui);
     for (const auto& step : split(script, ' ')) {
@@ -87,8 +87,8 @@ class ControlTest : public StoreTest {
           {"release", [&] { away->mouseUp(at.modifiers); }},
           {"select",
            [&] { ui.showingArchive() ? entry.selectEntry(id, at.modifiers) : row.select(id, at.modifiers); }},
-          {"blank", [&] { play("release:" + what + " wait:0"); }},
-          {"click", [&] { play("release:" + what + " select:" + what + " wait:0"); }},
+          {"blank", [&] { ControlTest::play("release:" + what + " wait:0"); }},
+          {"click", [&] { ControlTest::play("release:" + what + " select:" + what + " wait:0"); }},
           {"pick", [&] { sel->setSelected(shown(), {id}); }},
           {"edit", [&] { sel->setEditingID(id); }},
           {"note", [&] { sel->setNoteEditingID(id); }},
@@ -112,6 +112,9 @@ class ControlTest : public StoreTest {
     }
   }
 
+  /// What a script says of the list that shows and of open editors.
+  virtual std::string looks() const { return selected(); }
+
   /// Plays each script on these lists and compares where it says so.
   void expect(const std::string& lists, const std::vector<std::string>& scripts) {
     for (const auto& script : scripts) {
@@ -123,13 +126,14 @@ class ControlTest : public StoreTest {
         const std::string listsAfter = changes ? part.substr(change + 2) : state();
         const int saves = files.replaces(kFile) + changes;
         play(part.substr(0, arrow));
-        EXPECT_EQ(split(selected(), ' '), split(part.substr(arrow + 2, change - arrow - 2), ' ')) << part;
+        EXPECT_EQ(split(looks(), ' '), split(part.substr(arrow + 2, change - arrow - 2), ' ')) << part;
         EXPECT_EQ(split(state(), ' '), split(listsAfter, ' ')) << part;
-        EXPECT_EQ(files.replaces(kFile), saves) << part;
+        EXPECT_TRUE(!savesOnce || files.replaces(kFile) == saves) << part;
       }
     }
   }
 
+  bool savesOnce = true;  ///< each change that a script tells of is one save
   SimulatedPreferencesStore preferences;
   UIState ui{preferences, {}};
   SimulatedPasteboard pasteboard;

@@ -52,13 +52,5 @@ TEST_F(KeyFilterTest, LeavesOtherKeysToAnotherWindowAndToTextFields) {
                             "show:archive keyboard:field !esc keyboard:window up -> X @X >X"});
 }
 
-TEST_F(KeyFilterTest, TellsObserversOfEachAssignmentOfAnObservedField) {
-  start("A/n B");
-  int told = 0;
-  observer = sel->observe([&] { ++told; });
-  play("click:B pick:B edit:A tab");
-  EXPECT_EQ(told, 6) << "the selection twice, the text editor twice, the note's index and its task";
-}
-
 }  // namespace
 }  // namespace brimle

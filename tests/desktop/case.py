@@ -17,7 +17,6 @@ from desktop import DESKTOP
 from waiting import DEADLINE, waitUntil
 
 PROGRAM = os.environ.get("BRIMLE_PROGRAM", Path(__file__).parents[2] / "build/bin/brimle")
-PICTURES = Path(PROGRAM).parents[1] / "desktop-tests"
 ADD = "Add a task"
 EDIT = "Edit"
 
@@ -34,6 +33,11 @@ def nextKey(month, day):
     return (date if date > today else date.replace(year=today.year + 1)).isoformat()
 
 
+def frame(numbers):
+    """The settings in which the window had this place and size."""
+    return f"[General]\nNSWindow%20Frame%20TodayWindow={numbers}\n"
+
+
 def textOf(row):
     """The text of a row's task. What else is to be said of the row follows it in its name."""
     return row.name.split(", ")[0]
@@ -48,8 +52,7 @@ class DesktopCase(unittest.TestCase):
 
     def start(self, *today, **lists):
         """Starts the program on a day with these lists and waits until its entry field has the keyboard."""
-        self.day = Day(list(today), **lists)
-        self._launch(os.environ | self.environment)
+        self.launch(Day(list(today), **lists))
         self.menus = MenuWatch()
         self.addCleanup(self.menus.end)
         self.app = self.until(lambda: applicationOf(self._program), "the program was on the accessibility bus")
@@ -61,27 +64,38 @@ class DesktopCase(unittest.TestCase):
     def startElsewhere(self, *today, **environment):
         """Starts the program on a day with this list, in an environment in which it may be met by the keyboard alone:
         other buses than those of the tests. Waits until its window has the keyboard."""
-        self.day = Day(list(today))
-        self._launch(os.environ | environment)
+        self.launch(Day(list(today)), **environment)
         self.waitForKeyboard()
+
+    def launch(self, day, **environment):
+        """Starts the program on a day and waits for nothing."""
+        self.day = day
+        self._file = Path(os.environ["XDG_DATA_HOME"]) / "Brimle/today.json"
+        self._file.parent.mkdir(exist_ok=True)
+        self._file.write_text(day_file.encoded(day, self.date().isoformat()), encoding="utf-8")
+        hands.moveTo(hands.NOWHERE)
+        self._messages = (DESKTOP.home / "messages").open("w+", encoding="utf-8")
+        self._program = DESKTOP.start(PROGRAM, stderr=self._messages, env=os.environ | self.environment | environment)
+        self.addCleanup(self._end)
 
     def waitForKeyboard(self):
         """Until the program's window has it."""
         self.until(lambda: hands.keyboardOwner() == self._program.pid, "the window had the keyboard")
 
-    def _launch(self, environment):
-        self._folder = Path(os.environ["XDG_DATA_HOME"]) / "Brimle"
-        self._file = self._folder / "today.json"
-        self._folder.mkdir(exist_ok=True)
-        self._file.write_text(day_file.encoded(self.day, self.date().isoformat()), encoding="utf-8")
-        hands.moveTo(hands.NOWHERE)
-        self._messages = (DESKTOP.home / "messages").open("w+", encoding="utf-8")
-        self._program = DESKTOP.start(PROGRAM, stderr=self._messages, env=environment)
-        self.addCleanup(self._end)
+    def expectInUse(self):
+        """The entry field takes a task, and the day file has it."""
+        hands.enter("tea")
+        self.expectDay(today=[*self.day.today, "tea"])
+
+    def quit(self):
+        hands.press("ctrl+q")
+        self.assertEqual(self.waitUntilEnded(), 0)
 
     def waitUntilEnded(self):
-        """Its exit status, as soon as it has ended by itself."""
-        return self._program.wait(DEADLINE)
+        """Its exit status, as soon as it has ended by itself with its day file as at the last look."""
+        status = self._program.wait(DEADLINE)
+        self.assertEqual(self._read(), self.day)
+        return status
 
     def _said(self):
         self._messages.seek(0)
@@ -103,11 +117,7 @@ class DesktopCase(unittest.TestCase):
                 self.fail(f"the program ended with {self._program.returncode}; it said:\n{self._said()}")
             meanwhile()
             return condition()
-        try:
-            return waitUntil(conditionWhileItRuns, what)
-        except AssertionError:
-            DESKTOP.picture(PICTURES / f"{self.id()}.png")
-            raise
+        return waitUntil(conditionWhileItRuns, what)
 
     # The day file.
 
@@ -126,9 +136,9 @@ class DesktopCase(unittest.TestCase):
         """The rows in sight, from the top down. The tree keeps them in the order in which they came."""
         shown = self.window.find("list")
         _, top, _, height = shown.box
-        boxes = [(row, row.box) for row in shown.all("row")]
-        seen = [(box[1], row) for row, box in boxes if top - 1 <= box[1] and box[1] + box[3] <= top + height + 1]
-        return [row for _, row in sorted(seen, key=lambda placed: placed[0])]
+        placed = [(row.box, row) for row in shown.all("row")]
+        seen = [(box[1], row) for box, row in placed if top - 1 <= box[1] and box[1] + box[3] <= top + height + 1]
+        return [row for _, row in sorted(seen, key=lambda one: one[0])]
 
     def row(self, text):
         """The row of a task, when all rows have come to rest."""
@@ -168,6 +178,15 @@ class DesktopCase(unittest.TestCase):
 
     def expectSelected(self, *texts):
         self.until(lambda: self.selected() == list(texts), lambda: f"{texts} were selected; {self.selected()} are")
+
+    def select(self, text, **more):
+        """Clicks a row, then others with a key held: `ctrl=["milk", "tea"]`."""
+        hands.click(self.row(text).point())
+        for held, texts in more.items():
+            for other in texts:
+                hands.click(self.row(other).point(), held=held)
+        clicked = {text}.union(*more.values())
+        self.until(lambda: clicked <= set(self.selected()), lambda: f"{clicked} were selected; {self.selected()} are")
 
     # The keyboard.
 
@@ -214,7 +233,10 @@ class DesktopCase(unittest.TestCase):
                                 timeout=30)
         return answer.stdout.decode()
 
+    def expectCopied(self, text):
+        self.until(lambda: self.copied() == text, lambda: f"the text {text!r} was copied; it is {self.copied()!r}")
+
     def putOnClipboard(self, text):
         subprocess.run(["xclip", "-selection", "clipboard", "-in"], input=text.encode(), check=True, timeout=30,
                        stderr=DESKTOP.log)
-        self.until(lambda: self.copied() == text, "the text was on the clipboard")
+        self.expectCopied(text)

@@ -1,26 +1,68 @@
 """Finding controls the way a screen reader does: by role and name in the accessibility tree. A control that is not on
 the screen is not found.
+
+The accessibility bus is spoken plainly: a control is asked anew at every question, so nothing seen here is ever stale. The
+usual client library keeps copies, and waits for ever where an event comes in while it asks.
 """
-import accessibility
-from gi.repository import GLib
+from functools import cache
+
+from gi.repository import Gio, GLib
 from waiting import waitUntil
 
 # What the tests call a role, where that is not what the bus calls it.
 ROLES = {"button": "push button", "field": "text", "row": "list item", "window": "frame"}
 
+_FOCUSED, _SHOWING = 12, 25  # bits of a state set
+_REGISTRY = "org.a11y.atspi.Registry"
+_TIMEOUT = 10000  # milliseconds
+
+
+def _call(bus, owner, path, method, arguments=None):
+    interface, _, name = method.rpartition(".")
+    answer = bus.call_sync(owner, path, interface, name, arguments, None, Gio.DBusCallFlags.NONE, _TIMEOUT).unpack()
+    return answer[0] if answer else None
+
+
+@cache
+def _bus():
+    session = Gio.bus_get_sync(Gio.BusType.SESSION)
+    session.set_exit_on_close(False)
+    address = _call(session, "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus.GetAddress")
+    flags = Gio.DBusConnectionFlags
+    return Gio.DBusConnection.new_for_address_sync(
+        address, flags.AUTHENTICATION_CLIENT | flags.MESSAGE_BUS_CONNECTION, None, None)
+
 
 class Control:
-    def __init__(self, element):
-        self._element = element
+    """Any question raises GLib.Error once the control is gone."""
+
+    def __init__(self, owner, path):
+        self._owner, self._path = owner, path
+
+    def __eq__(self, other):
+        return (self._owner, self._path) == (other._owner, other._path)
+
+    def _ask(self, method, arguments=None):
+        return _call(_bus(), self._owner, self._path, "org.a11y.atspi." + method, arguments)
+
+    def _has(self, state):
+        low, high = self._ask("Accessible.GetState")
+        return bool((high << 32 | low) >> state & 1)
+
+    @property
+    def role(self):
+        """In the bus's own words: "push button", "list item"."""
+        return self._ask("Accessible.GetRoleName")
 
     @property
     def name(self):
-        return self._element.name()
+        return _call(_bus(), self._owner, self._path, "org.freedesktop.DBus.Properties.Get",
+                     GLib.Variant("(ss)", ("org.a11y.atspi.Accessible", "Name")))
 
     @property
     def box(self):
         """Left, top, width, height, in pixels of the screen."""
-        return self._element.box()
+        return self._ask("Component.GetExtents", GLib.Variant("(u)", (0,)))
 
     def point(self, across=0.5, down=0.5):
         """A point in it, as fractions of its extents; the middle where none are given."""
@@ -30,49 +72,53 @@ class Control:
     @property
     def text(self):
         """What stands in a field, its lines ended by newlines."""
-        return self._element.text().replace("\N{LINE SEPARATOR}", "\n")
+        return self._ask("Text.GetText", GLib.Variant("(ii)", (0, -1))).replace("\N{LINE SEPARATOR}", "\n")
 
     @property
     def focused(self):
-        return self._element.has(accessibility.FOCUSED)
-
-    @property
-    def active(self):
-        """Whether it is the window that has the keyboard."""
-        return self._element.has(accessibility.ACTIVE)
+        return self._has(_FOCUSED)
 
     def all(self, role, named=None):
-        """Every control in it with the role, of those on the screen; with the name, or one that `named(name)` takes."""
-        accepts = named if callable(named) else lambda name: named in (None, name)
-        return [control for control in self._withRole(ROLES.get(role, role)) if accepts(control.name)]
+        """Every control in it with the role, of those on the screen, and with the name where one is given."""
+        return [control for control in self._withRole(ROLES.get(role, role)) if named in (None, control.name)]
 
     def find(self, role, named=None):
         """The one such control in it, as soon as there is exactly one."""
         def one():
             found = self.all(role, named)
             return found[0] if len(found) == 1 else None
-        return waitUntil(one, lambda: f"there is one {role} named {named!r}; there are\n{self._tree()}")
+        return waitUntil(one, lambda: f"there is one {role} named {named!r}; there are\n{self.tree()}")
 
-    def _children(self):
-        return [Control(child) for child in self._element.children() if child.has(accessibility.SHOWING)]
+    def processId(self):
+        """Nothing where the program has ended."""
+        try:
+            return _call(_bus(), "org.freedesktop.DBus", "/", "org.freedesktop.DBus.GetConnectionUnixProcessID",
+                         GLib.Variant("(s)", (self._owner,)))
+        except GLib.Error:
+            return None
+
+    def children(self):
+        return [Control(*child) for child in self._ask("Accessible.GetChildren")]
+
+    def tree(self, indent="  "):
+        return "".join(f"{indent}{child.role} {child.name!r}\n{child.tree(indent + '  ')}" for child in self._shown())
+
+    def _shown(self):
+        return [child for child in self.children() if child._has(_SHOWING)]
 
     def _withRole(self, role):
         """A control in a control of the same role is not looked for."""
-        for child in self._children():
-            if child._element.role() == role:
+        for child in self._shown():
+            if child.role == role:
                 yield child
             else:
                 yield from child._withRole(role)
 
-    def _tree(self, indent="  "):
-        return "".join(f"{indent}{child._element.role()} {child.name!r}\n{child._tree(indent + '  ')}"
-                       for child in self._children())
-
 
 def applicationOf(process):
     """The controls of a program; nothing while it is not on the accessibility bus."""
-    element = accessibility.applicationOf(process)
-    return element and Control(element)
+    applications = Control(_REGISTRY, "/org/a11y/atspi/accessible/root").children()
+    return next((found for found in applications if found.processId() == process.pid), None)
 
 
 class MenuWatch:
@@ -80,20 +126,23 @@ class MenuWatch:
 
     def __init__(self):
         self._open = []
-        self.end = accessibility.watchShowing(self._changed)
+        _call(_bus(), _REGISTRY, "/org/a11y/atspi/registry", _REGISTRY + ".RegisterEvent",
+              GLib.Variant("(s)", ("object:state-changed:showing",)))
+        self._subscription = _bus().signal_subscribe(
+            None, "org.a11y.atspi.Event.Object", "StateChanged", None, "showing", Gio.DBusSignalFlags.NONE, self._changed)
 
-    def _changed(self, element, shows):
-        if not shows:
-            self._open = [menu for menu in self._open if menu != element]
-        elif self._isMenu(element):
-            self._open.append(element)
+    def end(self):
+        _bus().signal_unsubscribe(self._subscription)
 
-    @staticmethod
-    def _isMenu(element):
+    def _changed(self, _bus, owner, path, _interface, _member, details):
+        control, shows = Control(owner, path), details.unpack()[1] == 1
         try:
-            return element.role() == "popup menu"
+            if shows and control.role == "popup menu":
+                self._open.append(control)
         except GLib.Error:
-            return False  # it is gone already
+            return  # it is gone already
+        if not shows and control in self._open:
+            self._open.remove(control)
 
     def waitUntilOpen(self):
         waitUntil(lambda: self._open, "a menu was open")
@@ -101,10 +150,9 @@ class MenuWatch:
     def item(self, title):
         """The item of an open menu; its name may go on with its key."""
         def found():
-            items = [item for menu in self._open for item in Control(menu).all("menu item")]
+            items = [item for menu in self._open for item in menu.all("menu item")]
             return next((item for item in items if item.name.split("\t")[0] == title), None)
-        return waitUntil(found, lambda: f"a menu had {title!r}; there are\n"
-                         + "\n".join(Control(menu)._tree() for menu in self._open))
+        return waitUntil(found, lambda: f"a menu had {title!r}; there are\n" + "\n".join(menu.tree() for menu in self._open))
 
     def waitUntilClosed(self):
         waitUntil(lambda: not self._open, "the menu was closed")

@@ -6,7 +6,7 @@ A task is its text, its marks and its notes: "milk!+ / oat / not soy". Marks: * 
 import json
 import re
 import uuid
-from dataclasses import asdict, dataclass, field
+from dataclasses import dataclass, field
 
 MARKS = {"*": "repeats", "+": "done", "!": "pinnedTop", "^": "highlighted", "#": "clearedToday"}
 
@@ -17,9 +17,6 @@ class Day:
     tomorrow: list = field(default_factory=list)
     scheduled: list = field(default_factory=list)
     archive: list = field(default_factory=list)
-
-    def __str__(self):
-        return "\n".join(f"  {name}: {tasks}" for name, tasks in asdict(self).items())
 
 
 def _record(notation):

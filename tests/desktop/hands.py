@@ -70,26 +70,24 @@ def glide(start, end):
     _xdotool(*words)
 
 
-def _ofKeyboardWindow(what):
-    answer = subprocess.run(["xdotool", "getwindowfocus", what], capture_output=True, text=True, check=False, timeout=30)
-    return answer.stdout.strip() if answer.returncode == 0 else ""
+def _answer(*words):
+    """What xdotool says; empty where it finds nothing."""
+    return subprocess.run(["xdotool", *words], capture_output=True, text=True, check=False, timeout=30).stdout.strip()
 
 
 def keyboardOwner():
     """The process whose window has the keyboard; nothing where no window has it."""
-    return int(_ofKeyboardWindow("getwindowpid") or 0) or None
+    return int(_answer("getwindowfocus", "getwindowpid") or 0) or None
 
 
 def keyboardWindow():
     """The title of the window that has the keyboard; empty where no window has it."""
-    return _ofKeyboardWindow("getwindowname")
+    return _answer("getwindowfocus", "getwindowname")
 
 
 def windowOf(process):
-    """The window of a program, as X numbers it; nothing while none is in sight."""
-    answer = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(process.pid)], capture_output=True, text=True,
-                            check=False, timeout=30)
-    return answer.stdout.split()[0] if answer.stdout else None
+    """The window of a program, as X numbers it; empty while none is in sight."""
+    return _answer("search", "--onlyvisible", "--pid", str(process.pid)).partition("\n")[0]
 
 
 def focus(window):
@@ -99,7 +97,5 @@ def focus(window):
 
 def boxOf(window):
     """Left, top, width, height, in pixels of the screen."""
-    answer = subprocess.run(["xdotool", "getwindowgeometry", "--shell", window], capture_output=True, text=True, check=True,
-                            timeout=30)
-    values = dict(line.split("=") for line in answer.stdout.split())
+    values = dict(line.split("=") for line in _answer("getwindowgeometry", "--shell", window).split())
     return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))

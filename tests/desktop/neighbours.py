@@ -4,7 +4,7 @@ it gets what the test says, answering nothing at all included.
 import os
 import socket
 import tempfile
-from pathlib import Path
+from contextlib import contextmanager
 
 import dbus
 import dbus.bus
@@ -44,13 +44,13 @@ class Neighbour:
             assert got == dbus.bus.REQUEST_NAME_REPLY_PRIMARY_OWNER, f"somebody else has the name {name}"
 
     def signal(self, path, interface, name, *arguments, signature):
-        message = dbus.lowlevel.SignalMessage(path, interface, name)
-        message.append(*arguments, signature=signature)
-        self._bus.send_message(message)
+        self._send(dbus.lowlevel.SignalMessage(path, interface, name), arguments, signature)
 
     def call(self, name, path, interface, method, *arguments, signature):
         """Sends a call and does not wait for what comes of it."""
-        message = dbus.lowlevel.MethodCallMessage(name, path, interface, method)
+        self._send(dbus.lowlevel.MethodCallMessage(name, path, interface, method), arguments, signature)
+
+    def _send(self, message, arguments, signature):
         message.append(*arguments, signature=signature)
         self._bus.send_message(message)
 
@@ -58,9 +58,9 @@ class Neighbour:
         """Sends a call and returns what is answered; raises where that is an error."""
         return self._bus.call_blocking(name, path, interface, method, signature, arguments)
 
-    def owner(self, name):
-        """The unique name of who owns a name; nothing where nobody does."""
-        return self._bus.get_name_owner(name) if self._bus.name_has_owner(name) else None
+    def sees(self, name):
+        """Whether somebody owns a name."""
+        return self._bus.name_has_owner(name)
 
     def end(self):
         self._bus.close()
@@ -75,17 +75,10 @@ class Neighbour:
         return _HANDLED
 
 
-class SilentBus:
-    """A socket that takes connections and never says a word."""
-
-    def __init__(self):
-        self._folder = tempfile.TemporaryDirectory(prefix="brimle-bus-")
-        path = Path(self._folder.name) / "bus"
-        self._socket = socket.socket(socket.AF_UNIX)
-        self._socket.bind(str(path))
-        self._socket.listen()
-        self.address = f"unix:path={path}"
-
-    def end(self):
-        self._socket.close()
-        self._folder.cleanup()
+@contextmanager
+def silentBus():
+    """A socket that takes connections and never says a word; its address."""
+    with tempfile.TemporaryDirectory(prefix="brimle-bus-") as folder, socket.socket(socket.AF_UNIX) as bus:
+        bus.bind(f"{folder}/bus")
+        bus.listen()
+        yield f"unix:path={folder}/bus"

@@ -1,6 +1,5 @@
 """Dragging rows with the mouse: to another place of the list, to another program, and from there."""
 import sys
-import unittest
 from itertools import cycle
 from pathlib import Path
 
@@ -16,69 +15,28 @@ def trembling(point):
     return lambda: hands.moveTo(next(places))
 
 
-class DraggingCase(DesktopCase):
-    def takeHold(self, text):
-        self.place = self.row(text).point()
-        hands.takeHold(self.place)
+class Dragging(DesktopCase):
+    def takeHold(self, place):
+        self.place = place
+        hands.takeHold(place)
         self.addCleanup(hands.letGo)
 
-    def dragOver(self, end, **lists):
+    def dragTo(self, place):
+        """Goes on with a drag to a place, and gives what keeps it there alive."""
+        hands.glide(self.place, place)
+        self.place = place
+        return trembling(place)
+
+    def dragOver(self, text, **lists):
         """Goes on with a drag until the pointer is over the middle of a row, then waits until the day is this."""
-        target = self.row(end).point()
-        hands.glide(self.place, target)
-        self.place = target
-        self.expectDay(trembling(target), **lists)
+        self.expectDay(self.dragTo(self.row(text).point()), **lists)
 
     def cancel(self):
         """Escape, and the button is let go over another row."""
         hands.press("Escape")
-        hands.glide(self.place, self.rows()[0].point())
+        self.dragTo(self.rows()[0].point())
         hands.letGo()
 
-    def selectAndExpect(self, text):
-        """The mouse is an ordinary one again: a click selects a row."""
-        hands.click(self.row(text).point())
-        self.expectSelected(text)
-
-
-class DraggingRows(DraggingCase):
-    def testARowMovesAlongWithThePointer(self):
-        self.start("milk", "bread", "tea", "eggs")
-        self.takeHold("tea")
-        self.dragOver("bread", today=["milk", "tea", "bread", "eggs"])
-        self.dragOver("milk", today=["tea", "milk", "bread", "eggs"])
-        self.dragOver("bread", today=["milk", "bread", "tea", "eggs"])
-        self.dragOver("eggs", today=["milk", "bread", "eggs", "tea"])
-        hands.letGo()
-        self.selectAndExpect("eggs")
-        self.undoUntil(today=["milk", "bread", "tea", "eggs"])
-
-    def testTheListScrollsUnderADragAtItsEdge(self):
-        tasks = [f"task {number}" for number in range(20)]
-        self.start(*tasks)
-        self.takeHold("task 1")
-        for down, moved in [(0.97, [tasks[0], *tasks[2:], tasks[1]]), (0.03, [tasks[1], tasks[0], *tasks[2:]])]:
-            edge = self.window.find("list").point(down=down)
-            hands.glide(self.place, edge)
-            self.place = edge
-            self.expectDay(trembling(edge), today=moved)
-        hands.letGo()
-        self.undoUntil(today=tasks)
-
-    def testEscapeEndsADragAndTheNextIsLikeTheFirst(self):
-        self.start("milk", "bread", "tea")
-        self.takeHold("tea")
-        self.dragOver("bread", today=["milk", "tea", "bread"])
-        self.cancel()
-        self.selectAndExpect("bread")
-        self.expectDay()
-        self.takeHold("tea")
-        self.dragOver("milk", today=["tea", "milk", "bread"])
-        hands.letGo()
-        self.selectAndExpect("bread")
-
-
-class DraggingText(DraggingCase):
     def startOther(self, text):
         """Another program's window with a text in it, all of it selected, beside the program's own."""
         left, top, width, _ = self.window.box
@@ -88,46 +46,55 @@ class DraggingText(DraggingCase):
         self.other = self.until(lambda: applicationOf(process), "the other program was on the accessibility bus")
         self.field = self.other.find("field")
 
-    def title(self):
-        return self.other.find("window").name
+    def waitForTitle(self, title, meanwhile):
+        self.until(lambda: self.other.find("window").name == title, f"the title was {title!r}", meanwhile)
+
+    def testARowMovesAlongWithThePointerUntilEscape(self):
+        tasks = ["milk", "bread", "tea", "eggs"]
+        self.start(*tasks)
+        self.takeHold(self.row("tea").point())
+        self.dragOver("bread", today=["milk", "tea", "bread", "eggs"])
+        self.dragOver("milk", today=["tea", "milk", "bread", "eggs"])
+        self.dragOver("eggs", today=["milk", "bread", "eggs", "tea"])
+        hands.letGo()
+        self.select("eggs")
+        self.undoUntil(today=tasks)
+        self.takeHold(self.row("tea").point())
+        self.dragOver("bread", today=["milk", "tea", "bread", "eggs"])
+        self.cancel()
+        self.select("bread")
+        self.expectDay()
+        self.takeHold(self.row("tea").point())
+        self.dragOver("milk", today=["tea", "milk", "bread", "eggs"])
+
+    def testTheListScrollsUnderADragAtItsEdge(self):
+        tasks = [f"task {number}" for number in range(20)]
+        self.start(*tasks)
+        self.takeHold(self.row("task 1").point())
+        for down, moved in [(0.97, [tasks[0], *tasks[2:], tasks[1]]), (0.03, [tasks[1], tasks[0], *tasks[2:]])]:
+            self.expectDay(self.dragTo(self.window.find("list").point(down=down)), today=moved)
+        hands.letGo()
+        self.undoUntil(today=tasks)
 
     def testARowsTextGoesIntoAnotherProgram(self):
         self.start("milk / oat", "bread")
         self.startOther("")
-        start = self.row("milk").point()
-        end = (self.field.point()[0], start[1])
-        hands.takeHold(start)
-        self.addCleanup(hands.letGo)
-        hands.glide(start, end)
-        self.until(lambda: self.title() == "Text, answered", "the drag was welcome", trembling(end))
+        self.takeHold(self.row("milk").point())
+        self.waitForTitle("Text, answered", self.dragTo((self.field.point()[0], self.place[1])))
         hands.letGo()
         self.until(lambda: self.field.text == "milk", lambda: f"the text was dropped; there is {self.field.text!r}")
         self.expectDay()
 
-    def dropText(self, place, drag, **lists):
-        """Drags the other program's text to a place; it is its first drag, or its second and so on."""
-        start = self.field.point(0.06, 0.06)
-        hands.takeHold(start)
-        self.addCleanup(hands.letGo)
-        hands.glide(start, place)
-        self.until(lambda: self.title() == f"Text, welcome {drag}", "the drop was welcome", trembling(place))
-        hands.letGo()
-        self.expectDay(**lists)
-
     def testATextDroppedOnARowOrBelowBecomesTasks(self):
-        self.start("milk")
-        self.startOther("bread // rye\ntea")
-        self.dropText(self.row("milk").point(), drag=1, today=["milk", "bread / rye", "tea"])
-        self.dropText(self.window.find("list").point(down=0.9), drag=2, today=["milk", *["bread / rye", "tea"] * 2])
-
-    def testATextIsTakenAfterARowsDragWasCancelled(self):
+        """Also when a row's drag was cancelled before."""
         self.start("milk", "bread")
-        self.startOther("tea")
-        self.takeHold("bread")
+        self.startOther("rice // red\ntea")
+        self.takeHold(self.row("bread").point())
         self.dragOver("milk", today=["bread", "milk"])
         self.cancel()
-        self.dropText(self.row("milk").point(), drag=1, today=["bread", "milk", "tea"])
-
-
-if __name__ == "__main__":
-    unittest.main()
+        dropped, below = ["rice / red", "tea"], self.window.find("list").point(down=0.9)
+        for drag, place in enumerate([self.row("milk").point(), below], start=1):
+            self.takeHold(self.field.point(0.06, 0.06))
+            self.waitForTitle(f"Text, welcome {drag}", self.dragTo(place))
+            hands.letGo()
+            self.expectDay(today=["bread", "milk", *dropped * drag])

@@ -1,52 +1,11 @@
-"""The program on Weston, a Wayland compositor without the extensions of the large desktops, shown in a window on X."""
-import os
-import shutil
-import sys
-import unittest
-from pathlib import Path
-from unittest import mock
-
-import hands
-from case import DesktopCase
+"""A Wayland compositor that goes away ends the program, and nothing is lost."""
 from desktop import DESKTOP
-from session import SKIPPED
-from waiting import waitUntil
-
-SOCKET = "weston-of-the-tests"
+from weston import WestonCase
 
 
-class Weston(DesktopCase):
-    def setUp(self):
-        self.weston = DESKTOP.start("weston", "--backend=x11-backend.so", "--use-pixman", f"--socket={SOCKET}", "--idle-time=0")
-        self.addCleanup(lambda: self.weston.poll() is None and DESKTOP.end(self.weston))
-        waitUntil((Path(os.environ["XDG_RUNTIME_DIR"]) / SOCKET).is_socket, "weston was ready")
-        waitUntil(lambda: hands.keyboardWindow().startswith("Weston"), "weston had the keyboard of X")
-        environment = mock.patch.dict(os.environ, QT_QPA_PLATFORM="wayland", WAYLAND_DISPLAY=SOCKET)
-        environment.start()
-        self.addCleanup(environment.stop)
-
-    def waitForKeyboard(self):
-        """Weston tells nobody which of its windows has the keyboard; it gives it to the one that is opened."""
-
-    def testADayFromTheStartToTheEnd(self):
-        self.start("milk")
-        hands.enter("tea")
-        self.expectDay(today=["milk", "tea"])
-        hands.press("ctrl+q")
-        self.assertEqual(self.waitUntilEnded(), 0)
-        self.assertEqual(self._read(), self.day)
-
+class Weston(WestonCase):
     def testACompositorThatGoesAwayEndsTheProgramAndLosesNothing(self):
         self.start("milk")
-        hands.enter("tea")
-        self.expectDay(today=["milk", "tea"])
+        self.expectInUse()
         DESKTOP.end(self.weston)
         self.assertNotEqual(self.waitUntilEnded(), 0)
-        self.assertEqual(self._read(), self.day)
-
-
-if not shutil.which("weston"):
-    print("skipped: there is no weston here", file=sys.stderr)
-    sys.exit(SKIPPED)
-if __name__ == "__main__":
-    unittest.main()

@@ -1,7 +1,6 @@
+// What the header tells of the day, what becomes of a draft, and how a long text is shown.
 #include "views/content_view.h"
 
-#include "i18n/dates.h"
-#include "i18n/i18n.h"
 #include "model/store_fixture.h"
 #include "views/row_text.h"
 
@@ -9,8 +8,6 @@ namespace brimle {
 namespace {
 
 struct ContentViewTest : StoreTest {
-  ~ContentViewTest() override { I18n::setLang("en"); }
-
   ContentView show(std::string_view state, std::string_view script = "") {
     open(document(state));
     run(script);
@@ -26,7 +23,6 @@ TEST_F(ContentViewTest, CountsWhatIsOpenAndPraisesADayThatIsDone) {
       {"A B*%", "clock 2026-06-20 09:00; add x", {"1 task"}},  // a Saturday
       {"", "", {}},
       {"A+ B*#", "", {}},  // ticked, but not filed yet
-      {"A+", "wait 2", {"all done", true}},
       {"B+ R*+# | T | | 15:R+", "", {"all done", true}},
       {" | | | 15:A 14:B+", "", {}},  // today's was closed unfinished
   };
@@ -34,16 +30,6 @@ TEST_F(ContentViewTest, CountsWhatIsOpenAndPraisesADayThatIsDone) {
     const auto shown = show(state, script).count();
     EXPECT_TRUE(shown == count) << state << ": " << shown.text;
   }
-}
-
-TEST_F(ContentViewTest, TellsWhatWaitsForTomorrow) {
-  EXPECT_EQ(show("A").tomorrowLabel() + show("A").tomorrowTooltip(), "");
-  const ContentView view = show("A | T U*/n");
-  EXPECT_EQ(view.tomorrowLabel(), "tomorrow: 2");
-  EXPECT_EQ(view.tomorrowTooltip(), "T\nU");
-  I18n::setLang("fr");
-  EXPECT_EQ(view.tomorrowLabel(), I18n::t("tomorrow") + ": 2");
-  EXPECT_EQ(show("A B").count().text, I18n::tasksCount(2));
 }
 
 TEST_F(ContentViewTest, FilesADraftAndDropsABlankOne) {

@@ -1,3 +1,4 @@
+// The steps that lead from one list of rows to another.
 #include "views/list_diff.h"
 
 #include <gtest/gtest.h>
@@ -12,10 +13,9 @@ namespace {
 using Rows = std::vector<Uuid>;
 using Kind = RowChange::Kind;
 
-Rows rows(std::uint32_t count, std::uint32_t step = 1) {
+Rows rows(std::uint32_t count) {
   Rows ids(count);
-  for (std::uint32_t row = 0, number = 0; row < count; ++row, number += step)
-    std::memcpy(&ids[row].bytes[8], &number, sizeof number);
+  for (std::uint32_t row = 0; row < count; ++row) std::memcpy(&ids[row].bytes[8], &row, sizeof row);
   return ids;
 }
 
@@ -55,26 +55,19 @@ TEST(ListDiff, LeadsFromAnyListToAnyOther) {
   }
 }
 
-TEST(ListDiff, TakesOneStepForOneRowMovedAndForNeighbours) {
-  const Rows before = rows(7);
-  for (std::size_t from = 0; from < 7; ++from) {
-    for (std::size_t to = 0; to < 7; ++to) {
-      const Rows after = applied(before, {}, {{Kind::move, from, 1, to}});
-      EXPECT_EQ(rowChanges(before, after).size(), from == to ? 0u : 1u) << from << " " << to;
-      Rows fewer = before;
+TEST(ListDiff, TakesOneStepForOneRowMovedAndForNeighboursInAnyNumberOfRows) {
+  for (const std::uint32_t count : {7u, 20'000u}) {
+    const Rows all = rows(count);
+    for (const auto& [from, to] : {std::pair(0u, count - 1), {count - 1, 0u}, {3u, 4u}, {4u, 2u}}) {
+      const Rows moved = applied(all, {}, {{Kind::move, from, 1, to}});
+      EXPECT_EQ(rowChanges(all, moved).size(), 1u) << from << " " << to;
+      Rows fewer = all;
       fewer.erase(fewer.begin() + std::min(from, to), fewer.begin() + std::max(from, to));
-      EXPECT_EQ(rowChanges(before, fewer).size(), from == to ? 0u : 1u);
-      EXPECT_EQ(rowChanges(fewer, before).size(), from == to ? 0u : 1u);
+      EXPECT_EQ(rowChanges(all, fewer).size(), 1u);
+      EXPECT_EQ(rowChanges(fewer, all).size(), 1u);
     }
+    EXPECT_TRUE(rowChanges(all, all).empty());
   }
-}
-
-TEST(ListDiff, TakesAHundredThousandRows) {
-  Rows all = rows(200'000);
-  EXPECT_EQ(rowChanges({}, all).size(), 1u);
-  EXPECT_EQ(rowChanges(rows(100'000, 2), all).size(), 100'000u);
-  std::rotate(all.begin(), all.begin() + 1, all.end());
-  EXPECT_EQ(rowChanges(rows(200'000), all).size(), 1u);
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+// A row of today's list: its editors of the text and the notes, and its menu.
 #include "views/row_view.h"
 
 #include "i18n/dates.h"
@@ -29,15 +30,15 @@ TEST_F(RowViewTest, SendsATaskWhoseTextEndsInADateToThatDayPinned) {
       {"click:A click:cmd+B edit:A write:A=_call_>20/6_ end:A -> B @B >B => B | | 20:call'*!^/n",
        "edit:A write:A=x_>_2026-06-20 blur:A -> => B | | 20:x'*!^/n",
        "edit:A write:A=_>20/6 end:A -> => >20/6'*^/n B", "edit:A write:A=x_>fri end:A -> => x >fri'*^/n B"});
-  begin("A");
-  act("edit:A write:A=x_>20/6");
+  start("A");
+  play("edit:A write:A=x_>20/6");
   const int saves = files.replaces(kFile);
-  act("end:A");
+  play("end:A");
   EXPECT_EQ(files.replaces(kFile), saves + 1) << "no save lacks the task";
 }
 
 TEST_F(RowViewTest, HintsAtTheDayOfADateToken) {
-  begin("A");
+  start("A");
   EXPECT_EQ(row->dateHint("x >20/6 !") + archive->dateHint(">20/6") + row->dateHint("x >3 marzo"), "");
   I18n::setLang("es");
   EXPECT_EQ(row->dateHint("x >3 marzo"), "→ " + prettyDay("2027-03-03"));
@@ -55,6 +56,7 @@ TEST_F(RowViewTest, EditsANoteInPlace) {
 TEST_F(RowViewTest, ClosesTheOpenNoteBeforeItOpensAnother) {
   expect("A/l/m/n B/o/p", {"edit:A.0 write:A.0=\t edit:A.2 -> note:A.1 => A/m/n B/o/p",
                            "edit:A.2 write:A.2= edit:A.0 -> note:A.0 => A/l/m B/o/p",
+                           "edit:A.0 write:A.0= edit:A.0 -> note:A.0 => A/m/n B/o/p",
                            "edit:A.0 write:A.0=\tx edit:A.1 -> note:A.1 => A/x/m/n B/o/p",
                            "edit:A.0 write:A.0= edit:B.1 -> note:B.1 => A/m/n B/o/p"});
 }
@@ -62,7 +64,6 @@ TEST_F(RowViewTest, ClosesTheOpenNoteBeforeItOpensAnother) {
 TEST_F(RowViewTest, ClosesANoteThatLosesTheKeyboardUnlessItHops) {
   expect("A/m/n B/o",
          {"edit:A.0 write:A.0=\tx blur:A.0 -> note:A.0 => A/\tx/n B/o; wait:0 -> => A/x/n B/o",
-          "edit:A.0 write:A.0=\tx blur:A.0 edit:A.1 wait:0 -> note:A.1 => A/x/n B/o",
           "edit:A.0 write:A.0= blur:A.0 edit:A.1 wait:0 -> note:A.0 => A/n B/o",
           "edit:A.1 blur:A.0 blur:B.1 wait:0 -> note:A.1", "edit:A.0 blur:A.0 gone wait:0 -> note:A.0",
           "edit:A.1 up blur:A.0 wait:0 -> note:A.0 hop; wait:0.15 blur:A.0 wait:0 ->"});
@@ -79,7 +80,7 @@ TEST_F(RowViewTest, AddsANoteAndOpensIt) {
 
 TEST_F(RowViewTest, OffersInItsMenuWhatItsTaskIsNot) {
   const auto menu = [&](std::string_view task) {
-    begin(task);
+    start(task);
     std::string text;
     for (const MenuEntry& item : row->menu(idOf("A"))) {
       text += (item.on ? *item.on ? "+" : "-" : "") + item.title;
@@ -90,13 +91,10 @@ TEST_F(RowViewTest, OffersInItsMenuWhatItsTaskIsNot) {
   EXPECT_EQ(menu("A%"),
             "Tick,Add note,Highlight,Pin to top,Move to tomorrow,,Repeat:,+No repeat,-Every day,-Weekdays "
             "only,,Delete?,");
-  EXPECT_EQ(menu("A+!^*%"),
-            "Untick,Add note,Remove highlight,Unpin,Move to tomorrow,,Repeat:,-No repeat,-Every day,"
-            "+Weekdays only,,Delete?,");
   I18n::setLang("fr");
-  EXPECT_EQ(menu("A*"),
-            "Cocher,Ajouter une note,Surligner,Épingler en haut,Reporter à demain,,Répéter:,-Ne pas répéter,"
-            "+Tous les jours,-En semaine uniquement,,Supprimer?,");
+  EXPECT_EQ(menu("A+!^*%"),
+            "Décocher,Ajouter une note,Retirer le surlignage,Désépingler,Reporter à demain,,Répéter:,"
+            "-Ne pas répéter,-Tous les jours,+En semaine uniquement,,Supprimer?,");
   EXPECT_EQ(row->menu(idOf("Z")).size(), 0u);
 }
 

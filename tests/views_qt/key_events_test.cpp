@@ -1,3 +1,4 @@
+// What a press of a real keyboard is reduced to.
 #include "views/qt/key_events.h"
 
 #include <gtest/gtest.h>

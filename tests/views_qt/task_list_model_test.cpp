@@ -1,3 +1,4 @@
+// The rows that the window shows of today's list.
 #include "views/qt/task_list_model.h"
 
 #include <QAbstractItemModelTester>
