@@ -1,3 +1,4 @@
+// Which days the date at the end of a text may name.
 #include "entry/date_token.h"
 
 #include <gtest/gtest.h>

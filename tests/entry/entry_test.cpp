@@ -1,3 +1,4 @@
+// How typed and pasted lines are read as tasks.
 #include "entry/entry.h"
 
 #include <gtest/gtest.h>

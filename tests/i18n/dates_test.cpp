@@ -1,3 +1,4 @@
+// Days and counts in the words of the interface language.
 #include "i18n/dates.h"
 
 #include <gtest/gtest.h>

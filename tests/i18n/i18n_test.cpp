@@ -1,3 +1,4 @@
+// The languages of the interface, and which of them a system setting means.
 #include "i18n/i18n.h"
 
 #include <gmock/gmock.h>

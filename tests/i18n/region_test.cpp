@@ -1,3 +1,4 @@
+// The order of a date and the weekend in the regions.
 #include "i18n/region.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The archive as a value: what changes make of it and what they share.
 #include "model/archive.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// What is read from a day file, and what is written into it.
 #include "model/day_file.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The day as a text to copy.
 #include <gmock/gmock.h>
 
 #include "i18n/dates.h"

@@ -1,3 +1,4 @@
+// Where added lines go, and that any bytes may be added.
 #include "base/text.h"
 #include "model/store_fixture.h"
 

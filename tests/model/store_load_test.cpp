@@ -1,3 +1,4 @@
+// What a start finds in the data folder, and that it loses none of it.
 #include "i18n/i18n.h"
 #include "model/data_folder.h"
 #include "model/store_fixture.h"

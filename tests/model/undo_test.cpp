@@ -1,3 +1,4 @@
+// What is one step to undo, and where undo and redo lead.
 #include "model/store_fixture.h"
 
 namespace brimle {

@@ -1,3 +1,4 @@
+// The settings, what they put in force, and those that come over from the program's predecessor.
 #include <gtest/gtest.h>
 
 #include "i18n/i18n.h"
