@@ -91,11 +91,6 @@ TEST(Lines, LoseOneBullet) {
   expectEach({{"[X] a", {"[X] a"}}, {"[ ] a", {"- [ ] a"}}, {"-", {" - "}}, {"a [pinned]", {"-   a !"}}});
 }
 
-TEST(Lines, ReadBackADayCopiedAsText) {
-  EXPECT_EQ(read("Monday 15 June\n○ open\n   first\n   second\n✓ ticked\n   third"),
-            "Monday 15 June\nopen | first | second\nticked | third");
-}
-
 TEST(Lines, KeepTenNotesATask) {
   std::string text = "a // typed";
   for (int line = 0; line < 12; ++line) text += "\n " + std::to_string(line);

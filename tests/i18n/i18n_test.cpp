@@ -11,31 +11,27 @@ struct InterfaceLanguage : testing::Test {
   ~InterfaceLanguage() override { I18n::setLang("en"); }
 };
 
-TEST_F(InterfaceLanguage, IsEnglishBeforeItIsSet) {
-  EXPECT_EQ(I18n::lang(), "en");
-}
-
 TEST_F(InterfaceLanguage, LooksUpATextAndGivesBackWhatIsNoKey) {
-  const struct {
-    const char* code;
-    const char* key;
-    const char* text;
-  } cases[] = {
-      {"en", "Add a task", "Add a task"},
-      {"en", "no such text", "no such text"},
+  const std::tuple<const char*, const char*, const char*> table[] = {
+      {"en", "Yesterday", "Yesterday"},
+      {"es", "Yesterday", "Ayer"},
       {"de", "Yesterday", "Gestern"},
-      {"de", "Yesterday ", "Yesterday "},
-      {"de", "yesterday", "yesterday"},
-      {"de", "Menu", "Menü"},
-      {"de", "", ""},
-      {"ja", "tomorrow", "明日"},
+      {"fr", "Yesterday", "Hier"},
+      {"it", "Yesterday", "Ieri"},
+      {"nl", "Yesterday", "Gisteren"},
+      {"pt", "Yesterday", "Ontem"},
+      {"id", "Yesterday", "Kemarin"},
+      {"ja", "Yesterday", "昨日"},
+      {"ko", "Yesterday", "어제"},
+      {"zh-Hans", "Add a task", "添加任务"},
       {"zh-Hant", "Add a task", "加入任務"},
+      {"de", "Menu", "Menü"},
+      {"de", "yesterday", "yesterday"},
+      {"de", "", ""},
       {"zh", "Yesterday", "Yesterday"},
-      {"xx", "Yesterday", "Yesterday"},
       {"system", "Yesterday", "Yesterday"},
-      {"", "Yesterday", "Yesterday"},
   };
-  for (const auto& [code, key, text] : cases) {
+  for (const auto& [code, key, text] : table) {
     I18n::setLang(code);
     EXPECT_EQ(I18n::t(key), text) << code << ": " << key;
   }
@@ -47,6 +43,7 @@ TEST_F(InterfaceLanguage, EveryLanguageIsListedWithItsOwnNameAndLocale) {
     rows.push_back(std::string(language.code).append(" ").append(language.name));
     I18n::setLang(std::string(language.code));
     EXPECT_EQ(I18n::locale(), language.locale);
+    EXPECT_EQ(I18n::resolve("system", {std::string(language.code) + "-XX"}), language.code);
   }
   EXPECT_THAT(rows,
               testing::ElementsAre("en English", "es Español", "de Deutsch", "fr Français", "it Italiano",
@@ -54,13 +51,10 @@ TEST_F(InterfaceLanguage, EveryLanguageIsListedWithItsOwnNameAndLocale) {
                                    "ko 한국어", "zh-Hans 简体中文", "zh-Hant 繁體中文"));
 }
 
-TEST_F(InterfaceLanguage, DatesFollowTheCodeAndUnknownCodesAreBritish) {
-  const std::pair<const char*, const char*> cases[] = {{"en", "en_GB"},      {"pt", "pt_BR"},
-                                                       {"zh-Hans", "zh_CN"}, {"zh-Hant", "zh_TW"},
-                                                       {"xx", "en_GB"},      {"system", "en_GB"}};
-  for (const auto& [code, locale] : cases) {
+TEST_F(InterfaceLanguage, DatesOfAnUnknownCodeAreBritish) {
+  for (const char* code : {"xx", "system"}) {
     I18n::setLang(code);
-    EXPECT_EQ(I18n::locale(), locale) << code;
+    EXPECT_EQ(I18n::locale(), "en_GB") << code;
   }
 }
 
@@ -71,26 +65,16 @@ TEST(ResolvingTheLanguageSetting, LeavesEverythingButSystemAlone) {
 }
 
 TEST(ResolvingTheLanguageSetting, TakesSystemFromTheFirstPreferredTagAlone) {
-  const struct {
-    std::vector<std::string> preferred;
-    const char* code;
-  } cases[] = {
+  const std::pair<std::vector<std::string>, const char*> cases[] = {
       {{}, "en"},
       {{""}, "en"},
       {{"en-US"}, "en"},
-      {{"sv-SE", "de-DE"}, "en"},
       {{"DE-de"}, "en"},
       {{"es-419"}, "es"},
-      {{"de-CH", "fr"}, "de"},
+      {{"sv-SE", "de-DE"}, "en"},
       {{"fr"}, "fr"},
-      {{"it-IT"}, "it"},
-      {{"nl-BE"}, "nl"},
-      {{"pt-PT"}, "pt"},
-      {{"id-ID"}, "id"},
-      {{"ja-JP"}, "ja"},
-      {{"ko-KR"}, "ko"},
-      {{"zh-Hant-HK", "en"}, "zh-Hant"},
       {{"zh-TW"}, "zh-Hant"},
+      {{"zh-Hant-HK", "en"}, "zh-Hant"},
       {{"zh-HK"}, "zh-Hant"},
       {{"zh-MO"}, "zh-Hans"},
       {{"zh-Hans-CN"}, "zh-Hans"},
@@ -98,12 +82,6 @@ TEST(ResolvingTheLanguageSetting, TakesSystemFromTheFirstPreferredTagAlone) {
   };
   for (const auto& [preferred, code] : cases) {
     EXPECT_EQ(I18n::resolve("system", preferred), code) << testing::PrintToString(preferred);
-  }
-}
-
-TEST(ResolvingTheLanguageSetting, KnowsEveryLanguageByItsOwnTag) {
-  for (const I18n::Language& language : I18n::languages()) {
-    EXPECT_EQ(I18n::resolve("system", {std::string(language.code)}), language.code);
   }
 }
 

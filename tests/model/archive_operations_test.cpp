@@ -66,24 +66,17 @@ TEST_F(ArchiveOperations, SearchIgnoresCaseAndKeepsMarks) {
 }
 
 TEST_F(ArchiveOperations, SearchIsPreparedInSlicesOrAtOnceAndStaysSo) {
-  std::vector<ArchiveDay> days;
-  for (int day = 0; day < 700; ++day) days.push_back(archiveDay(std::to_string(3000 - day) + ":a,É/n,b"));
-  const Lists years{{task("new+")}, Archive(days), {}, {}};
+  std::string days;
+  for (int day = 0; day < 700; ++day) days += " " + std::to_string(3000 - day) + ":a,É/n,b";
   const auto isPrepared = [this] { return store->archive().prepareSearch(0); };
   for (const bool inSlices : {true, false}) {
-    open(document(years));
-    const std::unordered_set<Uuid> some{days[1].items[1].id, days[300].items[0].id, days[699].items[2].id};
-    if (inSlices) store->prepareSearch();
-    EXPECT_FALSE(isPrepared()) << "a slice is not the whole";
-    if (inSlices) {
-      store->removeArchived(some);
-      time.runUntilIdle();
-    } else {
-      EXPECT_EQ(store->archivedIDsInOrder("E\u0301").size(), 700u);
-      store->removeArchived(some);
-    }
+    open(document("new+ | | |" + days));
+    inSlices ? store->prepareSearch() : run("search x");
+    EXPECT_EQ(isPrepared(), !inSlices) << "a slice is not the whole";
+    store->removeArchived({std::next(store->archive().begin(), 300)->items[0].id});
+    time.runUntilIdle();
     EXPECT_TRUE(isPrepared());
-    for (const auto& [query, found] : {std::pair{"e\u0301", 699u}, {"A", 699u}, {"b", 699u}, {"e", 0u}}) {
+    for (const auto& [query, found] : {std::pair{"e\u0301", 700u}, {"A", 699u}, {"e", 0u}}) {
       EXPECT_EQ(store->archivedIDsInOrder(query).size(), found) << query;
     }
     run("wait 2");
