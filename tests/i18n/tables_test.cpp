@@ -32,18 +32,16 @@ const std::map<std::string_view, std::set<std::string_view>> kSameAsEnglish = {
 
 /// Titles that stand beside each other, in a menu where an item is found by its title or as opposites.
 const std::vector<Texts> kSiblings = {
-    {"File", "Edit", "View", "Window", "Help"},
-    {"File", "Archive"},
+    {"File", "Edit", "View", "Archive", "Window", "Help"},
     {"System", "Light", "Dark", "Paper", "Font", "Text Size", "Margin", "Language", "Reset to Defaults"},
-    {"Warm", "White"},
-    {"System", "Serif", "Rounded"},
+    {"Warm", "White", "System", "Serif", "Rounded"},
     {"Small", "Medium", "Large"},
     {"Standard", "Narrow", "Flush"},
     {"Compact", "Regular", "Large"},
     {"About Brimle", "Check for Updates…", "Start at Login", "Quit Brimle"},
     {"Undo", "Redo", "Cut", "Copy", "Paste", "Select All"},
-    {"Tick", "Untick", "Add note", "Highlight", "Remove highlight", "Pin to top", "Unpin", "Move to tomorrow",
-     "Repeat", "Delete"},
+    {"Tick", "Untick", "Add note", "Highlight", "Remove highlight", "Pin to top", "Unpin", "Repeat",
+     "Delete"},
     {"No repeat", "Every day", "Weekdays only"},
     {"Past days", "Future days", "Today", "Yesterday", "tomorrow"},
     {"ticked", "pinned", "repeats", "highlighted", "selected"},

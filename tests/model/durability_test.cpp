@@ -1,7 +1,5 @@
 // What a store on a real disk keeps, whichever file operation fails and whenever the program ends.
 #include <gmock/gmock.h>
-#include <sys/resource.h>
-
 #include <fstream>
 
 #include "model/store_fixture.h"
@@ -233,25 +231,6 @@ TEST_F(Durability, OutlastsTheProgramAndThePower) {
     expectSurvives(course, {Fault::Kind::kill, 0, false, at});
     expectSurvives(course, {Fault::Kind::powerCut, 0, false, at});
   });
-}
-
-TEST_F(Durability, OutlastsADiskThatFillsUp) {
-  deed = kDeeds[1];
-  begin();
-  const std::string before = onDisk();
-  rlimit unlimited{};
-  ::getrlimit(RLIMIT_FSIZE, &unlimited);
-  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-  const rlimit small{4096, unlimited.rlim_max};
-  failing = true;
-  ::setrlimit(RLIMIT_FSIZE, &small);
-  store->addLines(std::string(10'000, 'x'), false);
-  ::setrlimit(RLIMIT_FSIZE, &unlimited);
-  std::signal(SIGXFSZ, handler);
-  failing = false;
-  EXPECT_EQ(onDisk(), before);
-  EXPECT_EQ(store->items().size(), 3u);
-  expectNextChangeSaved(false);
 }
 
 }  // namespace

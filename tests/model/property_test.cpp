@@ -184,7 +184,7 @@ class RandomUse : public StoreTest {
 
   /// What else befalls a store: no task is lost by it, and one that repeats may be filed besides.
   void happen() {
-    const Seconds pauses[] = {0s, 0.1s, 0.25s, 0.5s, 1s, 1.3s, 5s};
+    const Seconds pauses[] = {0s, 0.1s, 0.299s, 0.3s, 0.5s, 1s, 1.3s, 5s};
     const std::function<void()> events[] = {[&] { time.advance(1s * pick(150'000)); },
                                             [&] { time.setClock(time.now() + 1h * pick(60) - 30h); },
                                             [&] { time.sleep(1s * pick(150'000)); },
