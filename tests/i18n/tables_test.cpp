@@ -135,13 +135,6 @@ INSTANTIATE_TEST_SUITE_P(Languages, Translations, testing::ValuesIn(translatedCo
                            return name;
                          });
 
-TEST(TranslationTables, AreEmptyForEnglishAndUnknownCodes) {
-  for (const char* code : {"en", "system", "zh", ""}) {
-    EXPECT_TRUE(I18n::table(code).empty());
-    EXPECT_TRUE(I18n::desktopTable(code).empty());
-  }
-}
-
 TEST(TranslationTables, HoldNoKeyTwice) {
   Texts keys = keysOf(I18n::table("de"));
   const Texts desktopKeys = keysOf(I18n::desktopTable("de"));

@@ -84,6 +84,12 @@ class StoreTest : public testing::Test {
 
   std::string state() const { return shown(store->lists()); }
 
+  bool isBackedUp(const std::string& bytes) const {
+    const Path backups = folder / "Backups";
+    const auto names = disk->list(backups).value_or(std::vector<std::string>{});
+    return std::ranges::any_of(names, [&](const auto& name) { return disk->read(backups / name) == bytes; });
+  }
+
   /// Does the steps of a script, such as "tick A B; wait 0.9; undo". A text at a step's end is taken with its
   /// blanks.
   void run(std::string_view script) {

@@ -6,13 +6,7 @@
 namespace brimle {
 namespace {
 
-class StoreLoad : public StoreTest {
- protected:
-  bool backedUp(const std::string& bytes) {
-    const auto names = files.list(kBackups).value_or(std::vector<std::string>{});
-    return std::ranges::any_of(names, [&](const auto& name) { return files.read(kBackups / name) == bytes; });
-  }
-};
+using StoreLoad = StoreTest;
 
 TEST_F(StoreLoad, StartsWithFourTasksInTheLanguageAndWritesNothingBeforeTheFirstChange) {
   I18n::setLang("de");
@@ -38,11 +32,11 @@ TEST_F(StoreLoad, KeepsTheBytesOfAFileItCannotRead) {
       reopen();
       reopen();
       EXPECT_EQ(store->items().size(), 4u);
-      EXPECT_TRUE(files.read(kFile) == bytes && backedUp(bytes) && backedUp(good) == hasBackup);
+      EXPECT_TRUE(files.read(kFile) == bytes && isBackedUp(bytes) && isBackedUp(good) == hasBackup);
       EXPECT_EQ(files.list(kBackups)->size(), hasBackup ? 2u : 1u) << "the same bytes are kept once";
       run("add a; reopen");
       EXPECT_EQ(store->items().size(), 5u);
-      EXPECT_TRUE(backedUp(bytes));
+      EXPECT_TRUE(isBackedUp(bytes));
     }
   }
 }
@@ -59,7 +53,7 @@ TEST_F(StoreLoad, NeverWritesOverWhatNoBackupHolds) {
     EXPECT_EQ(files.read(kFile), bytes);
     run("add b; wait 1; add c");
     EXPECT_EQ(store->items().size(), 7u);
-    EXPECT_TRUE(backedUp(bytes)) << "even where the file came back with its disk";
+    EXPECT_TRUE(isBackedUp(bytes)) << "even where the file came back with its disk";
     EXPECT_EQ(files.list(kBackups)->size(), 1u);
   }
   files = LoggedFiles();
