@@ -1,3 +1,4 @@
+// Text in UTF-8: its blanks, its lines, its repair, and when two texts mean the same.
 #include "base/text.h"
 
 #include <gmock/gmock.h>

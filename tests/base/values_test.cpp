@@ -1,3 +1,4 @@
+// Identities, days and signals.
 #include <gtest/gtest.h>
 
 #include <unordered_set>

@@ -3,10 +3,8 @@
 
 #include <unicode/unistr.h>
 
-#include "base/text.h"
 #include "entry/entry.h"
-#include "entry_context_input.h"
-#include "require.h"
+#include "target.h"
 
 namespace brimle {
 namespace {

@@ -2,10 +2,8 @@
 // several regions and languages.
 #include "entry/entry.h"
 
-#include "base/text.h"
 #include "entry/date_token.h"
-#include "entry_context_input.h"
-#include "require.h"
+#include "target.h"
 
 namespace brimle {
 namespace {

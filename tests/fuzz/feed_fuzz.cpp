@@ -2,49 +2,16 @@
 // what stands before it is the document.
 #include "updates/feed.h"
 
-#include <sodium.h>
-
-#include "base/text.h"
-#include "input.h"
+#include "../updates/feed_signer.h"
 #include "model/json_writer.h"
-#include "require.h"
+#include "target.h"
 #include "updates/signature.h"
 
 namespace brimle {
 namespace {
 
-template <std::size_t size>
-std::string base64(const std::array<unsigned char, size>& bytes) {
-  std::string text(sodium_base64_ENCODED_LEN(size, sodium_base64_VARIANT_ORIGINAL), '\0');
-  sodium_bin2base64(text.data(), text.size(), bytes.data(), size, sodium_base64_VARIANT_ORIGINAL);
-  text.pop_back();
-  return text;
-}
-
-/// The maintainer's key pair, the same in every run.
-class Signer {
- public:
-  Signer() {
-    const std::array<unsigned char, crypto_sign_SEEDBYTES> seed{};
-    require(sodium_init() >= 0, "libsodium is there");
-    crypto_sign_seed_keypair(public_.data(), secret_.data(), seed.data());
-  }
-
-  std::string publicKey() const { return base64(public_); }
-  std::string sign(std::string_view document) const {
-    std::array<unsigned char, crypto_sign_BYTES> signature;
-    crypto_sign_detached(signature.data(), nullptr, reinterpret_cast<const unsigned char*>(document.data()),
-                         document.size(), secret_.data());
-    return base64(signature);
-  }
-
- private:
-  std::array<unsigned char, crypto_sign_PUBLICKEYBYTES> public_;
-  std::array<unsigned char, crypto_sign_SECRETKEYBYTES> secret_;
-};
-
 void checkSignature(std::string_view document, std::string_view last) {
-  static const Signer signer;
+  static const FeedSigner signer;
   const std::string key = signer.publicKey();
   const std::string genuine = signer.sign(document);
   const bool isGenuine = last.size() <= kLongestSignature && trimmedLines(last) == genuine;

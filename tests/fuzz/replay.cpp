@@ -13,11 +13,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using Run = int (*)(const std::uint8_t* data, std::size_t size);
-
 struct Target {
   const char* name;
-  Run run;
+  int (*run)(const std::uint8_t* data, std::size_t size);
 };
 
 }  // namespace
@@ -35,13 +33,6 @@ constexpr Target kTargets[] = {
 };
 #undef TARGET
 
-void runEveryStart(Run run, const std::vector<char>& bytes) {
-  for (std::size_t size = 0; size <= bytes.size(); ++size) {
-    const std::vector<std::uint8_t> start(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(size));
-    run(start.data(), size);
-  }
-}
-
 /// How many inputs there are; a name is printed before its run, so that the last one is what failed.
 std::size_t replay(const Target& target, const fs::path& corpus) {
   std::size_t count = 0;
@@ -49,7 +40,11 @@ std::size_t replay(const Target& target, const fs::path& corpus) {
     std::printf("%s\n", entry.path().c_str());
     std::fflush(stdout);
     std::ifstream file(entry.path(), std::ios::binary);
-    runEveryStart(target.run, {std::istreambuf_iterator<char>(file), {}});
+    const std::vector<std::uint8_t> bytes(std::istreambuf_iterator<char>(file), {});
+    for (std::size_t size = 0; size <= bytes.size(); ++size) {
+      const std::vector<std::uint8_t> start(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(size));
+      target.run(start.data(), size);
+    }
     ++count;
   }
   return count;

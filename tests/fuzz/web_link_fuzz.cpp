@@ -1,9 +1,6 @@
 // Web addresses in any bytes.
+#include "target.h"
 #include "views/web_link.h"
-
-#include "base/text.h"
-#include "input.h"
-#include "require.h"
 
 namespace brimle {
 namespace {

@@ -1,3 +1,4 @@
+// The order of a date and the weekend in the regions.
 #include "i18n/region.h"
 
 #include <gtest/gtest.h>
@@ -10,33 +11,28 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr std::bitset<7> kSunday = 0b0000001, kSaturdaySunday = 0b1000001, kFridaySaturday = 0b1100000,
-                         kFriday = 0b0100000;
+/// "month" or "day", whichever stands first in a date, and the days of the weekend.
+std::string shown(const Region& region) {
+  constexpr std::array days{"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
+  std::string text = region.monthFirst ? "month" : "day";
+  for (unsigned day = 0; day < days.size(); ++day) {
+    if (region.isWeekend(2026y / 6 / (14 + day))) text += std::string(" ") + days[day];
+  }
+  return text;
+}
 
 TEST(RegionOfALocale, TellsFieldOrderAndWeekend) {
-  const struct {
-    const char* name;
-    bool monthFirst;
-    std::bitset<7> weekend;
-  } cases[] = {
-      {"en_US", true, kSaturdaySunday},
-      {"en_US.UTF-8", true, kSaturdaySunday},
-      {"en-US", true, kSaturdaySunday},
-      {"en_GB.UTF-8", false, kSaturdaySunday},
-      {"de_DE", false, kSaturdaySunday},
-      {"de_DE.ISO-8859-15@euro", false, kSaturdaySunday},
-      {"de_DE@euro", false, kSaturdaySunday},
-      {"ja_JP.UTF-8", true, kSaturdaySunday},
-      {"zh-Hant-TW", true, kSaturdaySunday},
-      {"hu_HU.UTF-8", true, kSaturdaySunday},
-      {"tl_PH.UTF-8", true, kSaturdaySunday},  // an old name of Filipino
-      {"ar_EG.UTF-8", false, kFridaySaturday},
-      {"he_IL.UTF-8", false, kFridaySaturday},
-      {"fa_IR", true, kFriday},
-      {"hi_IN", false, kSunday},
+  const std::pair<const char*, std::vector<const char*>> table[] = {
+      {"month Sun Sat",
+       {"en_US", "en_US.UTF-8", "en-US", "ja_JP.UTF-8", "zh-Hant-TW", "hu_HU.UTF-8", "tl_PH.UTF-8"}},
+      {"day Sun Sat", {"en_GB.UTF-8", "de_DE", "de_DE.ISO-8859-15@euro", "de_DE@euro"}},
+      {"day Fri Sat",
+       {"ar_EG.UTF-8", "he_IL.UTF-8", "xx_IL"}},  // the country counts where all else is unknown
+      {"month Fri", {"fa_IR"}},
+      {"day Sun", {"hi_IN"}},
   };
-  for (const auto& [name, monthFirst, weekend] : cases) {
-    EXPECT_EQ(regionOf(name), (Region{monthFirst, weekend})) << name;
+  for (const auto& [expected, names] : table) {
+    for (const char* name : names) EXPECT_EQ(shown(regionOf(name)), expected) << name;
   }
 }
 
@@ -46,10 +42,6 @@ TEST(RegionOfALocale, IsDayFirstWithSaturdayAndSundayWhereTheNameSaysNothing) {
     EXPECT_EQ(regionOf(name), Region()) << name;
   }
   EXPECT_EQ(regionOf(std::string(5000, 'a')), Region());
-}
-
-TEST(RegionOfALocale, KnowsTheWeekendOfACountryWhoseLanguageIsUnknown) {
-  EXPECT_EQ(regionOf("xx_IL"), (Region{false, kFridaySaturday}));
 }
 
 TEST(RegionOfALocale, DoesNotDependOnTheLocaleOfTheProcess) {
@@ -62,27 +54,6 @@ TEST(RegionOfALocale, DoesNotDependOnTheLocaleOfTheProcess) {
   }
   UErrorCode status = U_ZERO_ERROR;
   uloc_setDefault(before.c_str(), &status);
-}
-
-TEST(Weekend, IsTheRegionsOwn) {
-  const Day friday = 2026y / 6 / 12, saturday = 2026y / 6 / 13, sunday = 2026y / 6 / 14,
-            monday = 2026y / 6 / 15;
-  const struct {
-    const char* name;
-    bool expected[4];
-  } cases[] = {
-      {"C", {false, true, true, false}},
-      {"de_DE", {false, true, true, false}},
-      {"ar_EG", {true, true, false, false}},
-      {"hi_IN", {false, false, true, false}},
-  };
-  for (const auto& [name, expected] : cases) {
-    const Region region = regionOf(name);
-    EXPECT_EQ(region.isWeekend(friday), expected[0]) << name;
-    EXPECT_EQ(region.isWeekend(saturday), expected[1]) << name;
-    EXPECT_EQ(region.isWeekend(sunday), expected[2]) << name;
-    EXPECT_EQ(region.isWeekend(monday), expected[3]) << name;
-  }
 }
 
 }  // namespace

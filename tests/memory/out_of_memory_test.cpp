@@ -1,8 +1,6 @@
 // What a store is after one of its operations ran out of memory, at any of its allocations.
 #include <gmock/gmock.h>
 
-#include <new>
-
 #include "memory/allocator.h"
 #include "model/store_fixture.h"
 #include "platform/desktop/posix_files.h"
@@ -16,79 +14,32 @@ using testing::AnyOf;
 
 constexpr const char* kBefore = "A/n! B*% C | T | 20:E/e 21:F! | 14:X+/m,Y 13:Z";
 
-struct Deed {
-  const char* what;
-  std::function<void(Store&, SimulatedTime&)> act;
-  bool isStep = true;      ///< undo takes it back
-  bool isSeveral = false;  ///< where it throws, it may leave an empty step behind
+/// What undo takes back; of several steps, done as one.
+constexpr const char* kSteps[] = {"tick A B",
+                                  "mark A C",
+                                  "delete A C",
+                                  "defer A C",
+                                  "pin C",
+                                  "move A C",
+                                  "end A",
+                                  "by A 1",
+                                  "wait 2",
+                                  "rewrite A a-text-too-long-to-be-kept-in-its-own-place/note",
+                                  "add x // y\nz !\nq >20/6",
+                                  "later x\nq >20/6",
+                                  "send A 20",
+                                  "drop 20:E/e",
+                                  "edit 20:E/e anything else >25/6",
+                                  "note 20:E/e",
+                                  "renote 20:E/e 0 anything else",
+                                  "bring 21:F!",
+                                  "erase Y Z",
+                                  "back Y Z",
+                                  "pin B; bring 20:E/e"};
+constexpr const char* kOthers[] = {
+    "clock 2026-06-16 09:00", "undo", "redo", "search m", "prepare", "remind", "tell"};
 
-  friend void PrintTo(const Deed& deed, std::ostream* out) { *out << deed.what; }
-};
-
-const Uuid kA = idOf("A"), kB = idOf("B"), kC = idOf("C"), kE = idOf("20:E/e"), kF = idOf("21:F!");
-
-std::unordered_set<Uuid> archived(const Store& store) {
-  const auto all = store.archivedIDsInOrder("");
-  return {all.begin() + 1, all.end()};
-}
-
-TodoItem changed(const Store& store) {
-  TodoItem task = *store.find(kA);
-  task.text = "a text too long to be kept in its own place";
-  return task;
-}
-
-const Deed kDeeds[] = {
-    {"tick",
-     [](Store& store, auto&) {
-       store.setDone({kA, kB}, true);
-     }},
-    {"mark",
-     [](Store& store, auto&) {
-       store.setHighlight({kA, kC}, true);
-     }},
-    {"delete",
-     [](Store& store, auto&) {
-       store.removeMany({kA, kC});
-     }},
-    {"defer",
-     [](Store& store, auto&) {
-       store.tomorrowMany({kA, kC});
-     }},
-    {"pin", [](Store& store, auto&) { store.togglePinTop(kC); }},
-    {"move", [](Store& store, auto&) { store.moveItem(kA, kC); }},
-    {"to the end", [](Store& store, auto&) { store.moveToEnd(kA); }},
-    {"by one", [](Store& store, auto&) { store.moveBy(kA, 1); }},
-    {"rewrite", [](Store& store, auto&) { store.replace(kA, changed(store)); }},
-    {"add", [](Store& store, auto&) { store.addLines("x // y\nz !\nq >20/6", false); }},
-    {"add to tomorrow", [](Store& store, auto&) { store.addLines("x\nq >20/6", true); }},
-    {"send", [](Store& store, auto&) { store.sendToDay(*store.find(kA), "2026-06-20"); }},
-    {"remove scheduled", [](Store& store, auto&) { store.removeScheduled(kE); }},
-    {"edit scheduled", [](Store& store, auto&) { store.editScheduled(kE, "anything else >25/6"); }},
-    {"add note", [](Store& store, auto&) { store.addScheduledNote(kE); }},
-    {"edit note", [](Store& store, auto&) { store.editScheduledNote(kE, 0, "anything else"); }},
-    {"bring forward", [](Store& store, auto&) { store.bringForward(kF); }},
-    {"remove archived", [](Store& store, auto&) { store.removeArchived(archived(store)); }},
-    {"bring back", [](Store& store, auto&) { store.bringBackMany(archived(store)); }},
-    {"several in one",
-     [](Store& store, auto&) {
-       store.perform([&] {
-         store.togglePinTop(kB);
-         store.bringForward(kE);
-       });
-     },
-     true, true},
-    {"sweep", [](auto&, SimulatedTime& time) { time.advance(Seconds(2)); }},
-    {"new day", [](auto&, SimulatedTime& time) { time.setClock(time.at("2026-06-16 09:00")); }, false},
-    {"undo", [](Store& store, auto&) { store.undo(); }, false},
-    {"redo", [](Store& store, auto&) { store.redo(); }, false},
-    {"search", [](Store& store, auto&) { store.archivedIDsInOrder("m"); }, false},
-    {"prepare the search", [](Store& store, auto&) { store.prepareSearch(); }, false},
-    {"remind", [](Store& store, auto&) { store.resyncArrivalNotifications(); }, false},
-    {"tell", [](Store& store, auto&) { store.dayAsText(); }, false},
-};
-
-class OutOfMemory : public StoreTest, public testing::WithParamInterface<Deed> {
+class OutOfMemory : public StoreTest {
  protected:
   OutOfMemory() {
     disk = &real;
@@ -120,8 +71,12 @@ class OutOfMemory : public StoreTest, public testing::WithParamInterface<Deed> {
     return state();
   }
 
-  bool act(Refusal planned) {
-    return attempt(planned, [this] { GetParam().act(*store, time); });
+  bool act(const std::string& script, Refusal planned) {
+    const auto steps = actionsOf(script);
+    const auto all = [&] {
+      for (const auto& step : steps) step();
+    };
+    return attempt(planned, [&] { steps.size() > 1 ? store->perform(all) : all(); });
   }
 
   /// True where the action did not throw.
@@ -143,10 +98,15 @@ class OutOfMemory : public StoreTest, public testing::WithParamInterface<Deed> {
     return file ? shown(file->lists) : "no document";
   }
 
-  bool isBackedUp(const std::string& bytes) {
-    const auto names = real.list(folder / "Backups").value();
-    return std::ranges::any_of(
-        names, [&](const auto& name) { return real.read(folder / "Backups" / name) == bytes; });
+  /// Does every allocation's refusal in turn, once alone and once with all later ones, until none is met.
+  void refuseEach(const std::function<void(Refusal)>& attempt) {
+    for (const bool lasting : {false, true}) {
+      wasRefused = true;
+      for (long granted = 0; wasRefused && !HasFailure(); ++granted) {
+        SCOPED_TRACE("after " + std::to_string(granted) + " allocations");
+        attempt({granted, lasting});
+      }
+    }
   }
 
   void expectHistory(std::initializer_list<std::pair<const char*, std::string>> steps) {
@@ -170,57 +130,53 @@ class OutOfMemory : public StoreTest, public testing::WithParamInterface<Deed> {
     for (const auto& name : names) EXPECT_FALSE(name.ends_with(".tmp")) << name;
   }
 
+  void expectWhole(const std::string& script, bool isStep) {
+    SCOPED_TRACE(script);
+    const std::string undone = stateAfter("undo"), redone = stateAfter("redo"), before = stateAfter("");
+    act(script, {});
+    const std::string after = state();
+    refuseEach([&](Refusal planned) {
+      begin();
+      const std::size_t descriptors = real.list("/proc/self/fd")->size();
+      const bool done = act(script, planned);
+      EXPECT_EQ(real.list("/proc/self/fd")->size(), descriptors);
+      EXPECT_EQ(state(), done ? after : before);
+      EXPECT_THAT(onDisk(), AnyOf(before, after));
+      if (done && isStep) expectHistory({{"undo", before}, {"redo", after}});
+      // Where several are not done, they may leave an empty step behind.
+      if (!done && script.find(';') == script.npos) {
+        expectHistory({{"undo", undone}, {"redo", before}, {"redo", redone}, {"undo", before}});
+      }
+      expectAllDone();
+    });
+  }
+
   const TempFolder temporary{fs::is_directory("/dev/shm") ? "/dev/shm" : fs::temp_directory_path()};
   PosixFiles real;
   Lists seen;  ///< by a view that looks at what it is told of
   bool wasRefused = true;
 };
 
-INSTANTIATE_TEST_SUITE_P(Deeds, OutOfMemory, testing::ValuesIn(kDeeds));
-
-TEST_P(OutOfMemory, AnOperationIsDoneWholeOrNotAtAll) {
-  const Deed& deed = GetParam();
-  const std::string undone = stateAfter("undo"), redone = stateAfter("redo"), before = stateAfter("");
-  act({});
-  const std::string after = state();
-  for (const bool lasting : {false, true}) {
-    wasRefused = true;
-    for (long granted = 0; wasRefused && !HasFailure(); ++granted) {
-      SCOPED_TRACE("after " + std::to_string(granted) + " allocations");
-      begin();
-      const std::size_t descriptors = real.list("/proc/self/fd")->size();
-      const bool done = act({granted, lasting});
-      EXPECT_EQ(real.list("/proc/self/fd")->size(), descriptors);
-      EXPECT_EQ(state(), done ? after : before);
-      EXPECT_THAT(onDisk(), AnyOf(before, after));
-      if (done && deed.isStep) expectHistory({{"undo", before}, {"redo", after}});
-      if (!done && !deed.isSeveral) {
-        expectHistory({{"undo", undone}, {"redo", before}, {"redo", redone}, {"undo", before}});
-      }
-      expectAllDone();
-    }
-  }
+TEST_F(OutOfMemory, AnOperationIsDoneWholeOrNotAtAll) {
+  for (const char* script : kSteps) expectWhole(script, true);
+  for (const char* script : kOthers) expectWhole(script, false);
 }
 
 TEST_F(OutOfMemory, AStartIsDoneWholeOrNotAtAll) {
   const std::string bytes = document("A! B | T", "14");
   const std::string before = shown(lists("A! B | T")), after = "A! T |  |  | 14:B";
-  for (const bool lasting : {false, true}) {
-    wasRefused = true;
-    for (long granted = 0; wasRefused && !HasFailure(); ++granted) {
-      SCOPED_TRACE("after " + std::to_string(granted) + " allocations");
-      store.reset();
-      fs::remove_all(folder / "Backups");
-      real.replace(folder / "today.json", {{bytes}});
-      attempt({granted, lasting}, [this] { reopen(); });
-      EXPECT_THAT(onDisk(), AnyOf(before, after));
-      if (!store) reopen();
-      const bool loaded = state() == after;
-      run("add z");
-      EXPECT_TRUE(loaded || isBackedUp(bytes)) << state();
-      expectSaved();
-    }
-  }
+  refuseEach([&](Refusal planned) {
+    store.reset();
+    fs::remove_all(folder / "Backups");
+    real.replace(folder / "today.json", {{bytes}});
+    attempt(planned, [this] { reopen(); });
+    EXPECT_THAT(onDisk(), AnyOf(before, after));
+    if (!store) reopen();
+    const bool loaded = state() == after;
+    run("add z");
+    EXPECT_TRUE(loaded || isBackedUp(bytes)) << state();
+    expectSaved();
+  });
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+// Which copies of the day file are made and kept.
 #include "model/store_fixture.h"
 
 namespace brimle {

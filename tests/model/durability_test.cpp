@@ -1,7 +1,5 @@
 // What a store on a real disk keeps, whichever file operation fails and whenever the program ends.
 #include <gmock/gmock.h>
-#include <sys/resource.h>
-
 #include <fstream>
 
 #include "model/store_fixture.h"
@@ -42,8 +40,6 @@ struct Deed {
   const char* prepare;
   const char* act;  ///< where it begins with "reopen", the fault may strike as the store is built
   bool linked = false;
-
-  friend void PrintTo(const Deed& deed, std::ostream* out) { *out << deed.what; }
 };
 
 constexpr Deed kDeeds[] = {
@@ -57,7 +53,7 @@ constexpr Deed kDeeds[] = {
     {"a start on a file that is no document", kNonsense.data(), "", "reopen; add a"},
 };
 
-class Durability : public StoreTest, public testing::WithParamInterface<Deed> {
+class Durability : public StoreTest {
  protected:
   /// What is in memory and on the disk along a deed while nothing fails.
   struct Course {
@@ -107,14 +103,24 @@ class Durability : public StoreTest, public testing::WithParamInterface<Deed> {
 
   Course courseOfDeed() {
     begin();
-    Course course{.before = onDisk(), .after = {}, .state = {}, .undone = {}, .calls = 0};
+    const std::string before = onDisk();
     act({});
-    course.calls = count;
-    course.after = onDisk();
-    course.state = state();
+    const std::string after = onDisk(), done = state();
     run("undo");
-    course.undone = state();
-    return course;
+    return {before, after, done, state(), count};
+  }
+
+  /// Tries every deed with a fault at each operation it takes, and after the last.
+  void forEachOperation(const std::function<void(const Course&, int)>& attempt) {
+    for (const Deed& each : kDeeds) {
+      deed = each;
+      const Course course = courseOfDeed();
+      EXPECT_GE(course.calls, 9) << deed.what;
+      for (int at = 1; at <= course.calls + 1 && !HasFailure(); ++at) {
+        SCOPED_TRACE(deed.what + (", operation " + std::to_string(at)));
+        attempt(course, at);
+      }
+    }
   }
 
   /// The store goes on in memory after a fault, and on the disk with its next change.
@@ -159,27 +165,17 @@ class Durability : public StoreTest, public testing::WithParamInterface<Deed> {
     const Lists was = store->lists();
     reopen();
     EXPECT_TRUE(store->lists() == was) << state();
-    if (isNonsense() || unread) {
-      EXPECT_TRUE(hasBackup(bytes)) << "what was not loaded is kept";
-    }
-    if (deed.before) {
-      EXPECT_EQ(fs::status(file).permissions(), kMode);
+    EXPECT_TRUE(isBackedUp(bytes) || !(isNonsense() || unread)) << "what was not loaded is kept";
+    EXPECT_TRUE(!deed.before || fs::status(file).permissions() == kMode);
+    const auto backups = sound.list(folder / "Backups").value();
+    for (const std::string& name : backups) {
+      const std::string backup = sound.read(folder / "Backups" / name).value();
+      EXPECT_TRUE(backup == kNonsense || readDayFile(backup)) << name;
     }
     EXPECT_EQ(fs::is_symlink(folder / "today.json"), deed.linked);
     for (const auto& entry : fs::recursive_directory_iterator(temporary->path)) {
       EXPECT_NE(entry.path().extension(), ".tmp") << entry.path();
     }
-  }
-
-  bool hasBackup(const std::string& wanted) {
-    bool found = false;
-    const auto names = sound.list(folder / "Backups").value();
-    for (const std::string& name : names) {
-      const std::string backup = sound.read(folder / "Backups" / name).value();
-      EXPECT_TRUE(backup == kNonsense || readDayFile(backup)) << name;
-      found = found || backup == wanted;
-    }
-    return found;
   }
 
   /// The day file's day and lists; its bytes where it is no document.
@@ -205,14 +201,8 @@ class Durability : public StoreTest, public testing::WithParamInterface<Deed> {
   Durability() { disk = &faultyFiles; }
 };
 
-INSTANTIATE_TEST_SUITE_P(Deeds, Durability, testing::ValuesIn(kDeeds));
-
-TEST_P(Durability, OutlastsAnyFaultOfAnyOperation) {
-  deed = GetParam();
-  const Course course = courseOfDeed();
-  EXPECT_GE(course.calls, 9);
-  for (int at = 1; at <= course.calls && !HasFailure(); ++at) {
-    SCOPED_TRACE("operation " + std::to_string(at));
+TEST_F(Durability, OutlastsAnyFaultOfAnyOperation) {
+  forEachOperation([this](const Course& course, int at) {
     for (const bool lasting : {false, true}) {
       for (const int error : {ENOSPC, EIO, EDQUOT, EACCES, EROFS, EINTR}) {
         if (error == EINTR && lasting) continue;  // signals do stop
@@ -220,59 +210,14 @@ TEST_P(Durability, OutlastsAnyFaultOfAnyOperation) {
       }
       expectGoesOn(course, {Fault::Kind::shortWrite, 0, lasting, at});
     }
-  }
+  });
 }
 
-TEST_P(Durability, OutlastsTheProgramAndThePower) {
-  deed = GetParam();
-  const Course course = courseOfDeed();
-  for (int at = 1; at <= course.calls + 1 && !HasFailure(); ++at) {
-    SCOPED_TRACE("operation " + std::to_string(at));
+TEST_F(Durability, OutlastsTheProgramAndThePower) {
+  forEachOperation([this](const Course& course, int at) {
     expectSurvives(course, {Fault::Kind::kill, 0, false, at});
     expectSurvives(course, {Fault::Kind::powerCut, 0, false, at});
-  }
-}
-
-TEST_F(Durability, OutlastsADiskThatFillsUp) {
-  deed = kDeeds[1];
-  begin();
-  const std::string before = onDisk();
-  rlimit unlimited{};
-  ::getrlimit(RLIMIT_FSIZE, &unlimited);
-  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-  const rlimit small{4096, unlimited.rlim_max};
-  failing = true;
-  ::setrlimit(RLIMIT_FSIZE, &small);
-  store->addLines(std::string(10'000, 'x'), false);
-  ::setrlimit(RLIMIT_FSIZE, &unlimited);
-  std::signal(SIGXFSZ, handler);
-  failing = false;
-  EXPECT_EQ(onDisk(), before);
-  EXPECT_EQ(store->items().size(), 3u);
-  expectNextChangeSaved(false);
-}
-
-TEST_F(Durability, OutlastsAFolderThatMayOnlyBeRead) {
-  for (const Deed& each : {kDeeds[1], kDeeds[5]}) {
-    deed = each;
-    begin();
-    fs::permissions(temporary->path, fs::perms(0755));
-    fs::permissions(file, fs::perms(0644));
-    for (const auto& name : {folder / "Backups", folder}) fs::permissions(name, fs::perms(0555));
-    const uid_t user = ::geteuid();
-    const uid_t refused = user == 0 ? 65534 : user;  // the superuser is refused nothing
-    ASSERT_EQ(::seteuid(refused), 0);
-    failing = true;
-    const std::string before = onDisk();
-    run(deed.act);
-    ASSERT_EQ(::seteuid(user), 0);
-    for (const auto& name : {folder, folder / "Backups"}) fs::permissions(name, fs::perms(0755));
-    fs::permissions(file, kMode);
-    failing = false;
-    EXPECT_EQ(onDisk(), before);
-    EXPECT_EQ(sound.list(folder / "Backups")->size(), 7u);
-    expectNextChangeSaved(false);
-  }
+  });
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+// Where added lines go, and that any bytes may be added.
 #include "base/text.h"
 #include "model/store_fixture.h"
 
@@ -31,7 +32,6 @@ TEST_F(AddLines, TakesAnyBytesAndSavesThemReadably) {
   const std::pair<std::string, std::size_t> table[] = {
       {std::string("a\0b\n\0", 6), 2},
       {"\xFF\n\x80 !\n\xC0\xAF\n\xED\xA0\x80 // \xF4\x90\x80\x80\ncut \xF0\x9F\x98", 5},
-      {std::string(10'000'000, 'x'), 1},
       {std::string(5'000'000, '\xFF'), 1},
       {lines, 100'000},
   };
@@ -39,11 +39,8 @@ TEST_F(AddLines, TakesAnyBytesAndSavesThemReadably) {
     open(document(""));
     store->addLines(text, false);
     EXPECT_EQ(store->items().size(), tasks);
-    EXPECT_EQ(storeLog, "save told-items ");
-    const Lists added = store->lists();
-    for (const TodoItem& item : added.items) ASSERT_TRUE(isValidUtf8(item.text) && !item.text.empty());
-    reopen();
-    EXPECT_TRUE(store->lists() == added);
+    for (const TodoItem& item : store->items()) ASSERT_TRUE(isValidUtf8(item.text) && !item.text.empty());
+    expectSaved();
   }
 }
 

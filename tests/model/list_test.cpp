@@ -1,3 +1,4 @@
+// What the user does to tasks on today's list.
 #include "model/store_fixture.h"
 
 namespace brimle {

@@ -1,4 +1,5 @@
-// Random sequences of everything that can be done to a store, and what holds after every step of them.
+// Random sequences of everything that can be done to a store, some wild and one of two years, and what holds
+// after every step of them.
 #include <gmock/gmock.h>
 
 #include <algorithm>
@@ -16,15 +17,17 @@ const std::string kTexts[] = {"milk",   "MILK",     "cafe\u0301", "CAFÉ",
                               "Straße", "STRASSE",  "İx\u0303",   "\u0301日",
                               "q\"\\/", "\xFF\xC0", "a *w !",     std::string("a\0b", 3)};
 const std::string kEnds[] = {"", "", "", " !", " *", " *w !", " // e // Straße", " /", " >31/2", " >"};
+const std::string kZones[] = {"UTC", "Europe/Berlin", "America/New_York", "Pacific/Kiritimati"};
 const std::string kQueries[] = {"",  " \t", "m",  "MILK", "cafe",   "É",    "e",  "x",
                                 "i", "1",   "SS", "ß",    "\u0301", "\xFE", "日", std::string("A\0", 2)};
 
-class AnySequence : public StoreTest, public testing::WithParamInterface<unsigned> {
+class RandomUse : public StoreTest {
  protected:
   using Texts = std::vector<std::string>;
+  using Days = std::vector<const ArchiveDay*>;
 
   /// Opens a store with some months of archive, as the program does it.
-  void begin() {
+  RandomUse() {
     std::string days;
     for (int number = 70; number > 0; --number) days += std::to_string(1000 + number) + ":É+/n,e\u0301/SS ";
     open(document("A! B*/n C*% | D | 20:E | " + days));
@@ -32,10 +35,12 @@ class AnySequence : public StoreTest, public testing::WithParamInterface<unsigne
     watch();
   }
 
+  /// Looks at every change. The saved bytes are compared after the step, for reading them back each time
+  /// would take long; the starts read them.
   void watch() {
     forget();
     was = store->lists();
-    watching = store->observe([this](const Store::Changes& told) {
+    observer = store->observe([this](const Store::Changes& told) {
       if (told.hasList()) remember();
     });
   }
@@ -49,8 +54,12 @@ class AnySequence : public StoreTest, public testing::WithParamInterface<unsigne
 
   /// Keeps what can be undone: a change 0.3 seconds or more after the one before it is a step of its own.
   void remember() {
-    saved = !files.diskFull && !files.unavailable;
-    if (store->storedDate() != day) {
+    saved = saves();
+    changed = true;
+    const bool newDay = store->storedDate() != day;
+    if (happens) expectFiled(newDay);
+    if (newDay) {
+      expectNewDay();
       forget();
     } else if (travels) {
       changedAt.reset();
@@ -65,6 +74,7 @@ class AnySequence : public StoreTest, public testing::WithParamInterface<unsigne
 
   void travel(std::vector<Lists>& from, std::vector<Lists>& to, void (Store::*go)()) {
     lost = gained = 1000;
+    stepsBack += &from == &past && !past.empty();
     const int beeps = desktop.beeps + from.empty();
     Lists expected = was;
     if (!from.empty()) {
@@ -97,8 +107,9 @@ class AnySequence : public StoreTest, public testing::WithParamInterface<unsigne
     return ids;
   }
   std::unordered_set<Uuid> archived() {
-    const auto all = store->archivedIDsInOrder("");
     std::unordered_set<Uuid> ids{idOf("unknown")};
+    if (pick(8) > 0) return ids;
+    const auto all = store->archivedIDsInOrder("");
     for (auto left = pick(5); left > 0 && !all.empty(); --left) ids.insert(oneOf(all));
     return ids;
   }
@@ -173,9 +184,11 @@ class AnySequence : public StoreTest, public testing::WithParamInterface<unsigne
 
   /// What else befalls a store: no task is lost by it, and one that repeats may be filed besides.
   void happen() {
-    const Seconds pauses[] = {0s, 0.1s, 0.25s, 0.5s, 1s, 1.3s, 5s};
+    const Seconds pauses[] = {0s, 0.1s, 0.299s, 0.3s, 0.5s, 1s, 1.3s, 5s};
     const std::function<void()> events[] = {[&] { time.advance(1s * pick(150'000)); },
                                             [&] { time.setClock(time.now() + 1h * pick(60) - 30h); },
+                                            [&] { time.sleep(1s * pick(150'000)); },
+                                            [&] { time.setZone(oneOf(kZones)); },
                                             [&] { store->rolloverIfNeeded(); },
                                             [&] { store->prepareSearch(); },
                                             [&] { store->resyncArrivalNotifications(); },
@@ -183,11 +196,17 @@ class AnySequence : public StoreTest, public testing::WithParamInterface<unsigne
                                             [&] { files.diskFull = pick(6) == 0; },
                                             [&] { files.unavailable = pick(6) == 0; },
                                             [&] { restart(); }};
+    befall([&] { pick(6) > 0 ? time.advance(oneOf(pauses)) : oneOf(events)(); });
+  }
+
+  void befall(const std::function<void()>& event) {
     for (const TodoItem& task : store->items()) {
       if (task.repeats) filed.push_back(textOf(task));
     }
     std::ranges::sort(filed);
-    pick(6) > 0 ? time.advance(oneOf(pauses)) : oneOf(events)();
+    happens = true;
+    event();
+    happens = false;
   }
 
   void restart() {
@@ -204,8 +223,62 @@ class AnySequence : public StoreTest, public testing::WithParamInterface<unsigne
     return text;
   }
 
-  /// Looks at every task and archived entry; gives their texts, sorted.
-  Texts look() const {
+  /// Whether the end of a task's time on the list files it: a sweep, or where the day ends, the rollover.
+  static bool leaves(const TodoItem& task, bool dayEnds) {
+    return task.done ? !task.clearedToday : dayEnds && !task.pinnedTop && !task.repeats;
+  }
+
+  /// What time has filed stands under the day that was, and is what was to leave the list: at the end of the
+  /// day all of it, in its order.
+  void expectFiled(bool newDay) {
+    Texts leaving, entered;
+    for (const TodoItem& task : was.items) {
+      if (leaves(task, newDay)) leaving.push_back(textOf(task) + (task.done ? "+" : ""));
+    }
+    const Archive& archive = store->archive();
+    if (archive != was.archive) {
+      EXPECT_EQ(archive.front().date, day);
+      const bool continues = !was.archive.empty() && was.archive.front().date == day;
+      for (const ArchivedItem& entry : archive.front().items) {
+        entered.push_back(textOf(entry) + (entry.completed ? "+" : ""));
+      }
+      entered.erase(entered.begin(),
+                    entered.begin() + (continues ? std::ssize(was.archive.front().items) : 0));
+    }
+    if (newDay) {
+      EXPECT_EQ(entered, leaving);
+    } else {
+      EXPECT_THAT(entered, testing::IsSubsetOf(leaving));
+      swept += entered.size();
+    }
+  }
+
+  void expectNewDay() {
+    ++daysLived;
+    EXPECT_TRUE(store->tomorrow().empty());
+    for (const TodoItem& task : was.items) {
+      const TodoItem* kept = store->find(task.id);
+      EXPECT_FALSE(kept && (kept->done || kept->clearedToday)) << task.text;
+    }
+    std::vector<ScheduledItem> waiting = was.scheduled;
+    std::erase_if(waiting, [this](const ScheduledItem& entry) { return entry.date <= store->storedDate(); });
+    EXPECT_EQ(store->scheduled(), waiting) << "one is late or early";
+  }
+
+  /// The days of the first archive that the second does not share.
+  static Days daysApart(const Archive& archive, const Archive& other) {
+    Days all, others, apart;
+    if (archive == other) return apart;
+    for (const ArchiveDay& each : archive) all.push_back(&each);
+    for (const ArchiveDay& each : other) others.push_back(&each);
+    std::ranges::sort(all);
+    std::ranges::sort(others);
+    std::ranges::set_difference(all, others, std::back_inserter(apart));
+    return apart;
+  }
+
+  /// The texts of every task and of the archived entries of these days, sorted.
+  static Texts textsOf(const Lists& lists, const Days& days) {
     Texts all;
     Store::Ids ids;
     const auto add = [&](const auto& record) {
@@ -215,18 +288,16 @@ class AnySequence : public StoreTest, public testing::WithParamInterface<unsigne
         EXPECT_TRUE(record.repeats || !record.clearedToday);
       }
     };
-    std::ranges::for_each(store->items(), add);
-    std::ranges::for_each(store->tomorrow(), add);
-    for (const ScheduledItem& each : store->scheduled()) {
+    std::ranges::for_each(lists.items, add);
+    std::ranges::for_each(lists.tomorrow, add);
+    for (const ScheduledItem& each : lists.scheduled) {
       add(each.item);
       ids.push_back(each.id);
     }
-    for (const ArchiveDay& each : store->archive()) std::ranges::for_each(each.items, add);
+    for (const ArchiveDay* each : days) std::ranges::for_each(each->items, add);
     std::ranges::sort(all);
     std::ranges::sort(ids);
     EXPECT_EQ(std::ranges::adjacent_find(ids), ids.end()) << "an identity stands twice";
-    EXPECT_TRUE(std::ranges::is_sorted(store->scheduled(), {}, &ScheduledItem::date));
-    EXPECT_EQ(store->storedDate(), dayKey(time.today()));
     return all;
   }
 
@@ -236,13 +307,25 @@ class AnySequence : public StoreTest, public testing::WithParamInterface<unsigne
     return rest;
   }
 
-  void expectFile() {
-    Lists plain = store->lists();
-    plain.archive = Archive({plain.archive.begin(), plain.archive.end()});
-    const std::string encoded = document(plain, day);
-    EXPECT_EQ(document(store->lists(), day), encoded);
-    if (!saved || files.unavailable) return;
-    EXPECT_EQ(files.read(kFile), encoded);
+  /// Does what one step is and looks at what it left, compared with what was.
+  void step(const std::function<void()>& action) {
+    SCOPED_TRACE("step " + std::to_string(++steps));
+    const Lists before = store->lists();
+    lost = gained = 0;
+    filed.clear();
+    action();
+    const Lists& after = store->lists();
+    const Texts had = textsOf(before, daysApart(before.archive, after.archive));
+    const Texts has = textsOf(after, daysApart(after.archive, before.archive));
+    EXPECT_LE(std::ssize(without(had, has)), lost);
+    EXPECT_LE(std::ssize(without(without(has, had), filed)), gained);
+    EXPECT_TRUE(std::ranges::is_sorted(after.scheduled, {}, &ScheduledItem::date));
+    EXPECT_EQ(store->storedDate(), dayKey(time.today()));
+    if (std::exchange(changed, false) && saved && !files.unavailable) {
+      EXPECT_EQ(files.read(kFile), document(after, day));
+    }
+    expectReminders();
+    if (steps % searchEvery == 0) expectSearch();
   }
 
   void expectSearch() {
@@ -276,42 +359,46 @@ class AnySequence : public StoreTest, public testing::WithParamInterface<unsigne
     EXPECT_THAT(pending, testing::UnorderedElementsAreArray(expected));
   }
 
-  std::minstd_rand random{GetParam()};
-  int texts = 0, lost = 0, gained = 0;
-  Texts filed;
-  bool saved = true, travels = false;
+  std::minstd_rand random;
+  int steps = 0, searchEvery = 4, texts = 0, lost = 0, gained = 0;
+  Texts filed;  ///< what may be filed and stay on the list besides
+  bool saved = true, changed = false, travels = false, happens = false;
+  std::size_t daysLived = 0, swept = 0, stepsBack = 0;
   Lists was;
   std::string day;
   std::vector<Lists> past, future;
   std::optional<Instant> changedAt;
-  Subscription watching;
+
+  const std::function<void()> deeds[4] = {[this] { change(); }, [this] { change(); },
+                                          [this] { travel(past, future, &Store::undo); },
+                                          [this] { travel(future, past, &Store::redo); }};
 };
 
+struct AnySequence : RandomUse, testing::WithParamInterface<unsigned> {};
+
 TEST_P(AnySequence, KeepsEveryPromise) {
-  begin();
-  Texts before = look();
-  for (int step = 0; step < 4000 && !HasFailure(); ++step) {
-    SCOPED_TRACE("step " + std::to_string(step));
-    lost = gained = 0;
-    filed.clear();
-    const std::function<void()> kinds[] = {[&] { change(); },
-                                           [&] { change(); },
-                                           [&] { happen(); },
-                                           [&] { happen(); },
-                                           [&] { travel(past, future, &Store::undo); },
-                                           [&] { travel(future, past, &Store::redo); }};
-    oneOf(kinds)();
-    Texts after = look();
-    EXPECT_LE(std::ssize(without(before, after)), lost);
-    EXPECT_LE(std::ssize(without(without(after, before), filed)), gained);
-    expectFile();
-    if (step % 4 == 0) expectSearch();
-    if (step % 3 == 0) expectReminders();
-    before = std::move(after);
+  random.seed(GetParam());
+  while (steps < 4000 && !HasFailure()) {
+    step(pick(3) ? oneOf(deeds) : [this] { happen(); });
   }
 }
 
 INSTANTIATE_TEST_SUITE_P(Property, AnySequence, testing::Range(1u, 7u));
+
+TEST_F(RandomUse, OfAHundredDeedsADayForTwoYearsKeepsEveryPromise) {
+  const Instant start = time.now();
+  searchEvery = 200;
+  for (int deed = 0; deed < 73'100 && !HasFailure(); ++deed) {
+    if (deed % 100 == 0) step([this] { happen(); });
+    step([this] { befall([this] { time.advance(1s * pick(1728)); }); });
+    step(pick(2) ? oneOf(deeds) : [this] { change(); });
+  }
+  EXPECT_GT(time.now() - start, 24h * 731);
+  EXPECT_GT(daysLived, 700u);
+  EXPECT_GT(swept, 1'000u);
+  EXPECT_GT(stepsBack, 5'000u);
+  EXPECT_GT(store->archive().dayCount(), 500u);
+}
 
 }  // namespace
 }  // namespace brimle

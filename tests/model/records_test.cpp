@@ -1,3 +1,4 @@
+// When two records are equal.
 #include "model/records.h"
 
 #include <gtest/gtest.h>

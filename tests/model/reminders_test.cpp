@@ -1,3 +1,4 @@
+// Which reminders are pending for the tasks of future days.
 #include "i18n/i18n.h"
 #include "model/store_fixture.h"
 

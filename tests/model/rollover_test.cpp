@@ -1,3 +1,4 @@
+// What the end of a day does to tasks, and when.
 #include "model/store_fixture.h"
 
 namespace brimle {

@@ -1,3 +1,4 @@
+// What is done to tasks that wait for their day.
 #include "model/store_fixture.h"
 
 namespace brimle {
@@ -6,48 +7,10 @@ namespace {
 constexpr auto kEdited = "save resync told-scheduled ";
 constexpr auto kMoved = "save resync told-items-scheduled ";
 
-class Scheduled : public StoreTest {
- protected:
-  /// Does one step: "send A 20", "drop 20:S", "bring 20:S", "edit 20:S new text", "note 20:S",
-  /// "renote 20:S 1 new text"; the texts with the blanks around them.
-  void act(const std::string& step) {
-    const auto words = split(step, ' ');
-    const Uuid id = idOf(words.at(1));
-    const auto textAfter = [&](int blanks) {
-      std::size_t at = 0;
-      while (blanks-- > 0 && at < step.size()) at = std::min(step.find(' ', at), step.size() - 1) + 1;
-      return step.substr(at);
-    };
-    const std::map<std::string, std::function<void()>> verbs = {
-        {"send",
-         [&] { store->sendToDay(store->find(id) ? *store->find(id) : task("Z"), dateOf(words.at(2))); }},
-        {"drop", [&] { store->removeScheduled(id); }},
-        {"bring", [&] { store->bringForward(id); }},
-        {"edit", [&] { store->editScheduled(id, textAfter(2)); }},
-        {"note", [&] { noteAdded = store->addScheduledNote(id); }},
-        {"renote", [&] { store->editScheduledNote(id, std::stoi(words.at(2)), textAfter(3)); }}};
-    verbs.at(words[0])();
-  }
-
-  /// Each step changes the lists so, with one save and one undo step; or not at all.
-  void expect(std::initializer_list<Row> rows) {
-    for (const auto& [before, step, after, log] : rows) {
-      SCOPED_TRACE(std::string(before) + " -> " + step);
-      open(document(before));
-      storeLog.clear();
-      act(step);
-      EXPECT_EQ(state(), after);
-      EXPECT_EQ(storeLog, log ? log : "");
-      store->undo();
-      EXPECT_EQ(state(), shown(lists(before)));
-    }
-  }
-
-  std::optional<std::size_t> noteAdded;
-};
+using Scheduled = StoreTest;
 
 TEST_F(Scheduled, TasksAreSentToADayDeletedAndBroughtForward) {
-  expect({
+  expectOneStep({
       {"A B+!^/n/m C R*%", "send B 20", "A C R*% |  | 20:B!^/n/m", kMoved},
       {"A R+*%", "send R 2027-01-01", "A |  | 2027-01-01:R*%", kMoved},
       {"A B | | 20:S 21:U", "send A 20", "B |  | 20:S 20:A 21:U", kMoved},
@@ -76,7 +39,7 @@ TEST_F(Scheduled, EntriesHaveAnIdentityOfTheirOwnAndKeepTheirOrder) {
 
 TEST_F(Scheduled, OnlyADateTokenIsReadInAnEditedText) {
   const auto* before = " | | 20:A!/n 20:B 21:C";
-  expect({
+  expectOneStep({
       {before, "edit 20:A!/n \t call the bank \u3000", " |  | 20:call the bank'!/n 20:B 21:C", kEdited},
       {before, "edit 20:A!/n call >20/6", " |  | 20:call'!/n 20:B 21:C", kEdited},
       {before, "edit 20:A!/n call > 21 June ", " |  | 20:B 21:call'!/n 21:C", kEdited},
@@ -96,7 +59,7 @@ TEST_F(Scheduled, OnlyADateTokenIsReadInAnEditedText) {
 }
 
 TEST_F(Scheduled, NotesAreAddedEmptyUpToTenAndBlankOnesRemoved) {
-  expect({
+  expectOneStep({
       {" | | 20:A/x/y/z", "renote 20:A/x/y/z 0  new note\t", " |  | 20:A/new note/y/z", kEdited},
       {" | | 20:A/x/y/z", "renote 20:A/x/y/z 2 m ! // n >21/6", " |  | 20:A/x/y/m ! // n >21/6", kEdited},
       {" | | 20:A/x/y/z", "renote 20:A/x/y/z 1 \u2003", " |  | 20:A/x/z", kEdited},
@@ -105,16 +68,16 @@ TEST_F(Scheduled, NotesAreAddedEmptyUpToTenAndBlankOnesRemoved) {
       {" | | 20:A/x/y/z", "renote 20:A/x/y/z 5", " |  | 20:A/x/y/z"},
       {" | | 20:A/x/y/z", "renote 20:A/x/y/z -1 new", " |  | 20:A/x/y/z"},
       {" | | 20:A/x/y/z", "renote A 0 new", " |  | 20:A/x/y/z"},
+      {" | | 20:A/x", "note 20:A/x", " |  | 20:A/x/", kEdited},
       {" | | 20:A/x", "note A", " |  | 20:A/x"},
   });
-  EXPECT_EQ(noteAdded, std::nullopt);
-  std::string entry = "20:A";
-  for (std::size_t notes = 0; notes < 12; ++notes, entry += "/n") {
-    const bool fits = notes < 10;
-    expect({{(" | | " + entry).c_str(), ("note " + entry).c_str(),
-             (" |  | " + entry + (fits ? "/" : "")).c_str(), fits ? kEdited : ""}});
-    EXPECT_EQ(noteAdded, fits ? std::optional(notes) : std::nullopt);
+  open(document(" | | 20:A"));
+  const Uuid id = store->scheduled()[0].id;
+  for (std::size_t note = 0; note < 12; ++note) {
+    EXPECT_EQ(store->addScheduledNote(id), note < 10 ? std::optional(note) : std::nullopt);
+    EXPECT_EQ(store->scheduled()[0].item.notes, std::vector<std::string>(std::min(note + 1, 10ul)));
   }
+  EXPECT_EQ(std::ranges::count(split(storeLog, ' '), "save"), 10);
 }
 
 }  // namespace

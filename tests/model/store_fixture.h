@@ -84,33 +84,82 @@ class StoreTest : public testing::Test {
 
   std::string state() const { return shown(store->lists()); }
 
-  /// Does the steps of a script, such as "tick A B; wait 0.9; undo".
+  bool isBackedUp(const std::string& bytes) const {
+    const Path backups = folder / "Backups";
+    const auto names = disk->list(backups).value_or(std::vector<std::string>{});
+    return std::ranges::any_of(names, [&](const auto& name) { return disk->read(backups / name) == bytes; });
+  }
+
+  /// Does the steps of a script, such as "tick A B; wait 0.9; undo". A text at a step's end is taken with its
+  /// blanks.
   void run(std::string_view script) {
+    for (const auto& step : actionsOf(script)) step();
+  }
+
+  std::vector<std::function<void()>> actionsOf(std::string_view script) {
+    std::vector<std::function<void()>> actions;
     for (const auto& step : split(script, ';')) {
-      const auto words = split(step, ' ');
-      Store::Ids ids;
-      for (std::size_t word = 1; word < words.size(); ++word) ids.push_back(idOf(words[word]));
-      const std::map<std::string, std::function<void()>> verbs = {
-          {"tick", [&] { store->setDone(ids, true); }},
-          {"untick", [&] { store->setDone(ids, false); }},
-          {"mark", [&] { store->setHighlight(ids, true); }},
-          {"delete", [&] { store->removeMany(ids); }},
-          {"defer", [&] { store->tomorrowMany(ids); }},
-          {"pin", [&] { store->togglePinTop(ids.at(0)); }},
-          {"move", [&] { store->moveItem(ids.at(0), ids.at(1)); }},
-          {"end", [&] { store->moveToEnd(ids.at(0)); }},
-          {"by", [&] { store->moveBy(ids.at(0), std::stoi(words.at(2))); }},
-          {"rewrite", [&] { store->replace(ids.at(0), task(words.at(2))); }},
-          {"add", [&] { store->addLines(step.substr(step.find("add ") + 4), false); }},
-          {"later", [&] { store->addLines(step.substr(step.find("later ") + 6), true); }},
-          {"undo", [&] { store->undo(); }},
-          {"redo", [&] { store->redo(); }},
-          {"day?", [&] { store->rolloverIfNeeded(); }},
-          {"wait", [&] { time.advance(Seconds(std::stod(words.at(1)))); }},
-          {"clock", [&] { time.setClock(time.at(words.at(1) + " " + words.at(2))); }},
-          {"reopen", [&] { reopen(); }}};
-      verbs.at(words.at(0))();
+      actions.push_back(actionOf(step.substr(step.find_first_not_of(' '))));
     }
+    return actions;
+  }
+
+  std::function<void()> actionOf(const std::string& step) {
+    const auto words = split(step, ' ');
+    Store::Ids ids;
+    for (std::size_t word = 1; word < words.size(); ++word) ids.push_back(idOf(words[word]));
+    const Uuid id = ids.empty() ? Uuid() : ids[0];
+    const auto textAfter = [step](int blanks) {
+      std::size_t at = 0;
+      while (blanks-- > 0 && at < step.size()) at = std::min(step.find(' ', at), step.size() - 1) + 1;
+      return step.substr(at);
+    };
+    const std::map<std::string, std::function<void()>> verbs = {
+        {"tick", [=, this] { store->setDone(ids, true); }},
+        {"untick", [=, this] { store->setDone(ids, false); }},
+        {"mark", [=, this] { store->setHighlight(ids, true); }},
+        {"delete", [=, this] { store->removeMany(ids); }},
+        {"defer", [=, this] { store->tomorrowMany(ids); }},
+        {"pin", [=, this] { store->togglePinTop(id); }},
+        {"move", [=, this] { store->moveItem(id, ids.at(1)); }},
+        {"end", [=, this] { store->moveToEnd(id); }},
+        {"by", [=, this] { store->moveBy(id, std::stoi(words.at(2))); }},
+        {"rewrite", [=, this] { store->replace(id, task(words.at(2))); }},
+        {"add", [=, this] { store->addLines(textAfter(1), false); }},
+        {"later", [=, this] { store->addLines(textAfter(1), true); }},
+        {"send",
+         [=, this] {
+           store->sendToDay(store->find(id) ? *store->find(id) : task("Z"), dateOf(words.at(2)));
+         }},
+        {"drop", [=, this] { store->removeScheduled(id); }},
+        {"bring", [=, this] { store->bringForward(id); }},
+        {"edit", [=, this] { store->editScheduled(id, textAfter(2)); }},
+        {"note", [=, this] { store->addScheduledNote(id); }},
+        {"renote", [=, this] { store->editScheduledNote(id, std::stoi(words.at(2)), textAfter(3)); }},
+        {"erase", [=, this] { store->removeArchived(archived(words)); }},
+        {"back", [=, this] { store->bringBackMany(archived(words)); }},
+        {"undo", [this] { store->undo(); }},
+        {"redo", [this] { store->redo(); }},
+        {"day?", [this] { store->rolloverIfNeeded(); }},
+        {"search", [=, this] { store->archivedIDsInOrder(words.at(1)); }},
+        {"prepare", [this] { store->prepareSearch(); }},
+        {"remind", [this] { store->resyncArrivalNotifications(); }},
+        {"tell", [this] { store->dayAsText(); }},
+        {"wait", [=, this] { time.advance(Seconds(std::stod(words.at(1)))); }},
+        {"clock", [=, this] { time.setClock(time.at(words.at(1) + " " + words.at(2))); }},
+        {"reopen", [this] { reopen(); }}};
+    return verbs.at(words.at(0));
+  }
+
+  /// The archived tasks of these texts; and what is no archived task, a task's identity among it.
+  std::unordered_set<Uuid> archived(const std::vector<std::string>& texts) const {
+    std::unordered_set<Uuid> ids{idOf("unknown"), idOf("A")};
+    for (const ArchiveDay& day : store->archive()) {
+      for (const ArchivedItem& entry : day.items) {
+        if (std::ranges::count(texts, entry.text) > 0) ids.insert(entry.id);
+      }
+    }
+    return ids;
   }
 
   struct Row {
@@ -130,6 +179,15 @@ class StoreTest : public testing::Test {
       EXPECT_EQ(state(), after);
       EXPECT_EQ(storeLog, log ? log : storeLog);
       expectSaved();
+    }
+  }
+
+  /// Each script is one step to undo, or does nothing where no log is given.
+  void expectOneStep(std::initializer_list<Row> rows) {
+    for (const auto& [before, script, after, log] : rows) {
+      expect({{before, script, after, log ? log : ""}});
+      run("undo");
+      EXPECT_EQ(state(), shown(lists(before))) << script;
     }
   }
 

@@ -1,3 +1,4 @@
+// What a sweep does to ticked tasks, and when.
 #include "model/store_fixture.h"
 
 namespace brimle {
