@@ -1,5 +1,8 @@
 // What a store on a real disk keeps, whichever file operation fails and whenever the program ends.
 #include <gmock/gmock.h>
+#include <sys/resource.h>
+
+#include <csignal>
 #include <fstream>
 
 #include "model/store_fixture.h"
@@ -218,6 +221,48 @@ TEST_F(Durability, OutlastsTheProgramAndThePower) {
     expectSurvives(course, {Fault::Kind::kill, 0, false, at});
     expectSurvives(course, {Fault::Kind::powerCut, 0, false, at});
   });
+}
+
+TEST_F(Durability, OutlastsADiskThatFillsUp) {
+  deed = kDeeds[1];
+  begin();
+  const std::string before = onDisk();
+  rlimit unlimited{};
+  ::getrlimit(RLIMIT_FSIZE, &unlimited);
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  const rlimit small{4096, unlimited.rlim_max};
+  failing = true;
+  ::setrlimit(RLIMIT_FSIZE, &small);
+  store->addLines(std::string(10'000, 'x'), false);
+  ::setrlimit(RLIMIT_FSIZE, &unlimited);
+  std::signal(SIGXFSZ, handler);
+  failing = false;
+  EXPECT_EQ(onDisk(), before);
+  EXPECT_EQ(store->items().size(), 3u);
+  expectNextChangeSaved(false);
+}
+
+TEST_F(Durability, OutlastsAFolderThatMayOnlyBeRead) {
+  for (const Deed& each : {kDeeds[1], kDeeds[5]}) {
+    deed = each;
+    begin();
+    fs::permissions(temporary->path, fs::perms(0755));
+    fs::permissions(file, fs::perms(0644));
+    for (const auto& name : {folder / "Backups", folder}) fs::permissions(name, fs::perms(0555));
+    const uid_t user = ::geteuid();
+    const uid_t refused = user == 0 ? 65534 : user;  // the superuser is refused nothing
+    ASSERT_EQ(::seteuid(refused), 0);
+    failing = true;
+    const std::string before = onDisk();
+    run(deed.act);
+    ASSERT_EQ(::seteuid(user), 0);
+    for (const auto& name : {folder, folder / "Backups"}) fs::permissions(name, fs::perms(0755));
+    fs::permissions(file, kMode);
+    failing = false;
+    EXPECT_EQ(onDisk(), before);
+    EXPECT_EQ(sound.list(folder / "Backups")->size(), 7u);
+    expectNextChangeSaved(false);
+  }
 }
 
 }  // namespace
