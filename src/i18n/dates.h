@@ -1,4 +1,4 @@
-// Days and counts in words, in the current interface language (I18n::locale).
+// Days in words, in the current interface language (I18n::locale).
 // ICU formats a day it is given; it never decides which day it is.
 #pragma once
 
@@ -21,10 +21,5 @@ std::string pastDayLabel(std::string_view key, Day today);
 std::string futureDayLabel(std::string_view key);
 /// The date line of today's list: full weekday, day, short month.
 std::string dateLine(Day today);
-
-namespace I18n {
-/// A number of tasks as a phrase: "1 task", "3 tasks", by each language's own rule.
-std::string tasksCount(long long count);
-}  // namespace I18n
 
 }  // namespace brimle

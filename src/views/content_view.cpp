@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/text.h"
+#include "i18n/counts.h"
 #include "i18n/dates.h"
 #include "i18n/i18n.h"
 

@@ -1,5 +1,6 @@
 // Days and counts in the words of the interface language.
 #include "i18n/dates.h"
+#include "i18n/counts.h"
 
 #include <gtest/gtest.h>
 

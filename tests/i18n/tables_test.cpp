@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "base/text.h"
-#include "i18n/dates.h"
+#include "i18n/counts.h"
 
 namespace brimle {
 namespace {

@@ -1,6 +1,6 @@
 // The status item: the count of open tasks beside it, and its small menu.
 #include "app/core/app_delegate.h"
-#include "i18n/dates.h"
+#include "i18n/counts.h"
 #include "i18n/i18n.h"
 
 namespace brimle {

@@ -5,13 +5,12 @@ import Brimle
 Symbol {
     id: button
 
-    required property string symbol
+    required name
     required property string label
     /// Space and Return are its own while it has the keyboard.
     readonly property bool takesKeys: true
     signal triggered
 
-    name: symbol
     width: size
     height: size
 

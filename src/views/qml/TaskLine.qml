@@ -84,7 +84,7 @@ Item {
             active: line.link !== ""
             visible: active
             sourceComponent: GlyphButton {
-                symbol: "link"
+                name: "link"
                 size: 11
                 color: Theme.secondary
                 label: line.link
@@ -98,7 +98,7 @@ Item {
             visible: active
             sourceComponent: GlyphButton {
                 enabled: line.hovered && !line.editing
-                symbol: "pin"
+                name: "pin"
                 size: 10
                 color: line.pinned ? Theme.pencilRed : Theme.secondary
                 label: line.pinned ? Texts.of["Unpin"] : Texts.of["Pin to top"]
