@@ -51,7 +51,8 @@ class MainWindowTest : public AppTest {
     std::vector<QQuickItem*> found;
     EXPECT_TRUE(QTest::qWaitFor([&] {
       found.clear();
-      collect(window->contentItem(), role, found);
+      collect(
+          window->contentItem(), [&](QQuickItem* item) { return hasRole(item, role); }, found);
       std::erase_if(found, [&](const QQuickItem* item) {
         return !named.empty() && std::ranges::find(named, nameOf(item)) == named.end();
       });
@@ -94,6 +95,12 @@ class MainWindowTest : public AppTest {
     QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
   }
 
+  template <class Predicate>
+  static void collect(QQuickItem* item, Predicate isWanted, std::vector<QQuickItem*>& found) {
+    if (item->isVisible() && isWanted(item)) found.push_back(item);
+    for (QQuickItem* child : item->childItems()) collect(child, isWanted, found);
+  }
+
   SelectionModel sel{time};
   std::optional<ContentView> view;
   std::optional<ArchiveView> archive;
@@ -101,10 +108,9 @@ class MainWindowTest : public AppTest {
   QQuickWindow* window = nullptr;
 
  private:
-  static void collect(QQuickItem* item, QAccessible::Role role, std::vector<QQuickItem*>& found) {
+  static bool hasRole(QQuickItem* item, QAccessible::Role role) {
     const auto* interface = QAccessible::queryAccessibleInterface(item);
-    if (item->isVisible() && interface && interface->role() == role) found.push_back(item);
-    for (QQuickItem* child : item->childItems()) collect(child, role, found);
+    return interface && interface->role() == role;
   }
 };
 
@@ -197,6 +203,30 @@ TEST_F(MainWindowTest, FollowsTheLanguageOfTheSettings) {
   items(QAccessible::StaticText, 1, {I18n::t("Past days will collect here at midnight.")});
   ui->setLanguage("fr");
   items(QAccessible::StaticText, 1, {I18n::t("Past days will collect here at midnight.")});
+}
+
+TEST_F(MainWindowTest, WritesInTheTypefaceAndTheSizesOfTheSettings) {
+  const auto fontOf = [](const QQuickItem* item) { return item->property("font").value<QFont>(); };
+  const auto task = [&](const QString& text) {
+    std::vector<QQuickItem*> found;
+    const auto isLabel = [&](QQuickItem* item) {
+      return item->inherits("QQuickText") && item->property("text") == text;
+    };
+    collect(window->contentItem(), isLabel, found);
+    return found.at(0);
+  };
+  ui->setFontDesign("serif");
+  const int size = fontOf(task("A")).pixelSize();
+  EXPECT_EQ(fontOf(task("A")).family().toStdString(), "serif");
+  EXPECT_EQ(fontOf(field()).pixelSize(), size);
+  const QFont title = fontOf(items(QAccessible::Heading, 1).at(0));
+  EXPECT_EQ(title.pixelSize(), size + 1);
+  EXPECT_EQ(title.weight(), QFont::DemiBold);
+  main->theme().setTextScale(2);
+  EXPECT_EQ(fontOf(task("A")).pixelSize(), 2 * size);
+  EXPECT_FALSE(fontOf(task("A")).strikeOut());
+  store->setDone({idOf("A")}, true);
+  EXPECT_TRUE(fontOf(task("A")).strikeOut());
 }
 
 TEST_F(MainWindowTest, ShowsWhereTheKeyboardIsAsItWalksBackFromTheEntryField) {

@@ -37,8 +37,9 @@ constexpr Fonts::Style Fonts::kStyles[] = {
     {&Fonts::description_, Family::desktop, Size::fixed, 12},
 };
 
-Fonts::Fonts() {
+Fonts::Fonts(const Basis& basis) {
   instance = this;
+  setBasis(basis);
 }
 
 Fonts::~Fonts() {

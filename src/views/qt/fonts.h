@@ -39,7 +39,8 @@ class Fonts : public QObject {
     double scale = 1;      ///< what all sizes are multiplied by
   };
 
-  Fonts();
+  /// The engine would make instances of its own of a class that can be made from nothing.
+  explicit Fonts(const Basis& basis);
   ~Fonts() override;
 
   /// The instance that QML gets; the theme keeps it.

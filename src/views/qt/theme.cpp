@@ -54,9 +54,9 @@ QString roundedFamily() {
 
 }  // namespace
 
-Theme::Theme(UIState& ui) : ui_(ui), seen_(settings()), following_(ui.observe([this] { settingsTold(); })) {
+Theme::Theme(UIState& ui)
+    : ui_(ui), fonts_(fontBasis()), seen_(settings()), following_(ui.observe([this] { settingsTold(); })) {
   instance = this;
-  setFonts();
 }
 
 Theme::~Theme() {
@@ -71,7 +71,7 @@ Theme* Theme::create(QQmlEngine*, QJSEngine*) {
 template <class Value>
 void Theme::assign(Value& member, Value value) {
   if (std::exchange(member, value) == value) return;
-  setFonts();
+  fonts_.setBasis(fontBasis());
   emit changed();
 }
 
@@ -136,8 +136,8 @@ QString Theme::fontFamily() const {
   return QGuiApplication::font().family();
 }
 
-void Theme::setFonts() {
-  fonts_.setBasis({fontFamily(), QGuiApplication::font().family(), baseSize(), textScale_});
+Fonts::Basis Theme::fontBasis() const {
+  return {fontFamily(), QGuiApplication::font().family(), baseSize(), textScale_};
 }
 
 // Computed once: every row has animations of its own.

@@ -102,11 +102,12 @@ class Theme : public QObject {
   Settings settings() const;
   void settingsTold();
   QString fontFamily() const;
-  void setFonts();
+  Fonts::Basis fontBasis() const;
   template <class Value>
   void assign(Value& member, Value value);
 
   UIState& ui_;
+  double textScale_ = 1;
   Fonts fonts_;
   Settings seen_;
   Subscription following_;
@@ -114,7 +115,6 @@ class Theme : public QObject {
   bool highContrast_ = false;
   bool reduceMotion_ = false;
   bool focusShown_ = false;
-  double textScale_ = 1;
 };
 
 }  // namespace brimle
