@@ -1,24 +1,16 @@
 // Shows a menu of the program's as desktops do, by com.canonical.dbusmenu: reads its rows, opens it, clicks.
 #pragma once
 
-#include <QObject>
 #include <string>
 #include <vector>
 
-#include "platform_qt/bus_client.h"
+#include "platform_qt/neighbour.h"
 
 namespace brimle {
 
-class MenuClient : public QObject {
-  Q_OBJECT
-
+class MenuClient {
  public:
-  QString service, path;  ///< where the menu is
-  int newLayouts = 0;     ///< how often the menu said that it has other rows
-  /// The rows whose properties the menu said are new, each as `rows` has it.
-  std::vector<std::string> newRows;
-
-  explicit MenuClient(BusClient& client);
+  MenuClient(Neighbour& neighbour, QString path) : neighbour_(neighbour), path_(std::move(path)) {}
 
   QVariantList ask(const QString& method, const QVariantList& arguments);
   bool isRefused(const QString& method, const QVariantList& arguments);
@@ -29,17 +21,19 @@ class MenuClient : public QObject {
   /// The number of a row of those that were asked for last.
   int id(std::size_t row) const { return ids_.at(row); }
   /// Whether the menu says that it must be read again.
-  bool open(int id = 0);
+  bool open(int id = 0) { return ask("AboutToShow", {id}).value(0).toBool(); }
   void click(int id);
 
- private slots:
-  void layoutUpdated() { ++newLayouts; }
-  void propertiesUpdated(const QDBusMessage& signal);
+  /// How often the menu said that it has other rows.
+  int newLayouts() const;
+  /// The rows whose properties the menu said are new, each as `rows` has it.
+  std::vector<std::string> newRows() const;
 
  private:
   void addRow(const QVariantList& layout, const std::string& indent, std::vector<std::string>& rows);
 
-  BusClient& client_;
+  Neighbour& neighbour_;
+  const QString path_;
   std::vector<int> ids_;
 };
 
