@@ -1,11 +1,13 @@
-// A real HTTPS host on this machine with a certificate of its own, and a maintainer who publishes feeds
-// there.
+// A real HTTPS host on this machine with a certificate of its own, that answers well or badly, and a
+// maintainer who publishes feeds there.
 #pragma once
 
-#include <QProcess>
 #include <QSslConfiguration>
+#include <QSslServer>
 #include <QTemporaryDir>
 #include <string>
+
+class QTcpSocket;
 
 namespace brimle {
 
@@ -13,12 +15,11 @@ class HttpsHost {
  public:
   /// Makes the certificate and the signing key and starts the host. A failure ends the program.
   HttpsHost();
-  ~HttpsHost();
 
-  /// The beginning of an address for a manner of answering (see feed_server.py).
-  std::string address(const std::string& manner) const;
-  /// Likewise by the host's number, for which its certificate is not.
-  std::string addressByNumber() const;
+  /// The beginning of an address for a manner of answering. The host's certificate is for its name alone, not
+  /// for its number.
+  std::string address(const std::string& manner, const std::string& host = "localhost") const;
+  /// That of a host that is not secure, for the same files.
   std::string plainAddress() const;
   /// Trusts this host's certificate and no other.
   QSslConfiguration trust() const;
@@ -30,12 +31,13 @@ class HttpsHost {
   std::string publicKey() const;
 
  private:
-  QString path(const std::string& name) const;
+  QString path(const std::string& name) const { return folder_.filePath(QString::fromStdString(name)); }
+  void listen(QTcpServer& server);
+  void answer(QTcpSocket& client) const;
 
   QTemporaryDir folder_;
-  QProcess server_;
-  std::string port_;
-  std::string plainPort_;
+  QSslServer secure_;
+  QTcpServer plain_;
 };
 
 }  // namespace brimle
