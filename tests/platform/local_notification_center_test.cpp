@@ -1,7 +1,7 @@
+// When reminders are delivered, what happens to those that were missed or failed, and what is kept of them.
 #include "platform/local_notification_center.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "platform/simulated/memory_files.h"
 #include "platform/simulated/simulated_time.h"
