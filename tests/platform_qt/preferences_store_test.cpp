@@ -55,12 +55,9 @@ TEST_F(SettingsFile, IsItsUsersAloneUnlessItWasMadeForMore) {
 
 TEST_F(SettingsFile, ThatAHandHasEditedGivesWhatCanBeRead) {
   files.createFolders(path.parent_path());
-  std::ofstream(path) << "]broken\nlanguage\n=nothing\ntextSize = large \nmargin=narrow, flush\n"
-                         "fontDesign=\"serif\"\n\xff\xfe=\xff\n";
+  std::ofstream(path) << "]broken\nlanguage\n=nothing\nmargin=narrow, flush \n\xff\xfe=\xff\n";
   QtPreferencesStore store(path, files);
-  EXPECT_THAT(store.string("textSize"), Optional(std::string("large")));
   EXPECT_THAT(store.string("margin"), Optional(std::string("narrow, flush")));
-  EXPECT_THAT(store.string("fontDesign"), Optional(std::string("serif")));
   store.setString("language", "it");
   EXPECT_THAT(store.string("language"), Optional(std::string("it")));
 }

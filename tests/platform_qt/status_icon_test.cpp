@@ -39,21 +39,6 @@ TEST(StatusPicture, DiffersForEveryCountUpToNinetyNineWithinTheRing) {
   }
 }
 
-TEST(StatusPicture, IsSharp) {
-  for (const int side : kSides) {
-    const QImage picture = statusPicture(side, 11, Qt::white).convertToFormat(QImage::Format_ARGB32);
-    EXPECT_EQ(picture.size(), QSize(side, side));
-    EXPECT_EQ(qAlpha(picture.pixel(0, 0)), 0);
-    int stem = 0;  // the longest column of pixels that are ink all over
-    for (int x = 0; x < side; ++x) {
-      int run = 0;
-      for (int y = 0; y < side; ++y)
-        stem = std::max(stem, run = picture.pixel(x, y) == qRgb(255, 255, 255) ? run + 1 : 0);
-    }
-    EXPECT_GE(stem, side * 3 / 8) << side;
-  }
-}
-
 TEST(StatusPicture, CanBeReadOnAnyPanel) {
   for (const QColor panel : {Qt::white, Qt::black, Qt::gray, Qt::darkBlue, Qt::yellow}) {
     for (const QColor ink : {QColor(0x2b2b2b), QColor(0xf2f2f2)}) {

@@ -7,14 +7,13 @@
 #include <QtEndian>
 
 #include "platform/desktop/qt_status_icon.h"
-#include "platform_qt/menu_client.h"
+#include "platform_qt/neighbour.h"
 #include "platform_qt/patience.h"
 
 namespace brimle {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::SizeIs;
 
 constexpr auto kWatcher = "org.kde.StatusNotifierWatcher";
@@ -184,21 +183,16 @@ TEST_F(StatusItemTest, IsLightOnAPanelThatIsAlwaysDark) {
   qunsetenv("XDG_CURRENT_DESKTOP");
 }
 
-TEST_F(StatusItemTest, IsClickedWithTheTokenOfThatClick) {
-  show();
-  panel.use("ProvideXdgActivationToken", {"token 1"});
-  panel.use("Activate", {0, 0});
-  panel.use("Activate", {-2147483647, 2147483647});
-  EXPECT_THAT(journal, ElementsAre("click token 1", "click "));
-}
-
 TEST_F(StatusItemTest, HasItsMenuAsItIsNow) {
   show();
-  MenuClient menu(panel, panel.shown("Menu").value<QDBusObjectPath>().path());
-  EXPECT_THAT(menu.rows(), ElementsAre("(1 task)", "(Quit)"));
-  first = "2 tasks";
-  EXPECT_TRUE(menu.open());
-  EXPECT_THAT(menu.rows(), ElementsAre("(2 tasks)", "(Quit)"));
+  const QString path = panel.shown("Menu").value<QDBusObjectPath>().path();
+  for (const char* title : {"1 task", "2 tasks"}) {
+    first = title;
+    const QVariantList layout =
+        panel.ask(path, "com.canonical.dbusmenu", "GetLayout", {0, -1, QStringList()});
+    const QVariantList row = layout.value(1).toList().value(2).toList().value(0).toList();
+    EXPECT_EQ(row.value(1).toMap()["label"], title);
+  }
 
   first = "3 tasks";
   panel.use("ContextMenu", {120, 45});  // by a panel that shows no menus
@@ -207,7 +201,7 @@ TEST_F(StatusItemTest, HasItsMenuAsItIsNow) {
   EXPECT_EQ(poppedUp[0].title, "3 tasks");
 }
 
-TEST_F(StatusItemTest, IsUnmovedByCallsThatMeanNothingToIt) {
+TEST_F(StatusItemTest, IsClickedWithTheTokenOfThatClickAndUnmovedByCallsThatMeanNothing) {
   show();
   panel.use("SecondaryActivate", {0, 0});
   panel.use("Scroll", {-120, "vertical"});
@@ -215,8 +209,10 @@ TEST_F(StatusItemTest, IsUnmovedByCallsThatMeanNothingToIt) {
       {"Activate", {}}, {"Activate", {"0", "0"}}, {"ProvideXdgActivationToken", {7}}, {"deleteLater", {}}};
   for (const auto& [method, arguments] : kRefused)
     EXPECT_TRUE(panel.isRefused(panel.path, kItem, method, arguments)) << method << arguments.size();
-  EXPECT_THAT(journal, IsEmpty());
-  EXPECT_THAT(poppedUp, IsEmpty());
+  panel.use("ProvideXdgActivationToken", {"token 1"});
+  panel.use("Activate", {0, 0});
+  panel.use("Activate", {-2147483647, 2147483647});
+  EXPECT_THAT(journal, ElementsAre("click token 1", "click "));
 }
 
 TEST_F(StatusItemTest, WaitsForNoWatcher) {

@@ -88,10 +88,8 @@ TEST(Feed, RefusesDocumentsOfAnotherForm) {
 
 TEST(Version, ComparesByNumberFromTheLeft) {
   const char* ascending[] = {"0.0.9", "0.0.10", "0.9.0", "0.10.0", "2.0.0", "10.0.0"};
-  for (std::size_t i = 1; i < std::size(ascending); ++i) {
+  for (std::size_t i = 1; i < std::size(ascending); ++i)
     EXPECT_LT(Version::parse(ascending[i - 1]), Version::parse(ascending[i])) << ascending[i];
-    EXPECT_EQ(Version::parse(ascending[i])->string(), ascending[i]);
-  }
 }
 
 }  // namespace
