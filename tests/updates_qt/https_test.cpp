@@ -1,6 +1,5 @@
-// What a user is told of an update feed on a real host, however that host answers.
-#include "platform/desktop/qt_feed_source.h"
-
+// What is taken from a real HTTPS host, however it answers, and whether what the project's own tool has
+// signed is believed.
 #include <QFile>
 #include <QProcess>
 #include <QSslConfiguration>
@@ -11,22 +10,19 @@
 #include <QTimer>
 #include <map>
 
-#include "platform/simulated/simulated_update_windows.h"
+#include "platform/desktop/qt_feed_source.h"
 #include "platform_qt/patience.h"
 #include "updates/feed_signer.h"
 #include "updates/feed_source_contract.h"
-#include "updates/feed_update_controller.h"
+#include "updates/update_check.h"
 
 namespace brimle {
 namespace {
 
 using namespace std::chrono_literals;
 
-constexpr Version kRunning{{1, 1, 0}};
 /// Far longer than a test may take: whatever ends sooner was ended by something else.
 constexpr auto kNever = 1h;
-
-constexpr auto kSignFeed = BRIMLE_SOURCE_DIR "/scripts/sign_feed";
 
 /// What a command prints.
 QByteArray run(const QString& program, const QStringList& arguments) {
@@ -42,67 +38,38 @@ QByteArray bytesOf(const QString& path) {
   return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// Goes on until the client leaves.
-void writeOnAndOn(QTcpSocket& client, const QByteArray& bytes, int milliseconds) {
-  auto* timer = new QTimer(&client);
-  QObject::connect(timer, &QTimer::timeout, &client, [&client, bytes] {
-    if (client.bytesToWrite() == 0) client.write(bytes);
-  });
-  timer->start(milliseconds);
-}
-
-/// A real HTTPS host on this machine with a certificate of its own, that answers well or badly, and a
-/// maintainer who publishes feeds there, signed by the project's own tool.
+/// A host on this machine with a certificate of its own, for its name alone. It answers well or badly, as the
+/// first part of a path says: /manner/name is about the file of that name.
 class HttpsHost {
  public:
+  std::map<QByteArray, QByteArray> files{{"feed", "bytes"}};
+
   HttpsHost() {
-    run("openssl", {"req", "-x509", "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:prime256v1", "-nodes",
-                    "-days", "2", "-subj", "/CN=localhost", "-addext", "subjectAltName=DNS:localhost",
-                    "-keyout", path("tls.key"), "-out", path("tls.pem")});
-    run("openssl", {"genpkey", "-algorithm", "ed25519", "-out", path("feed.key")});
-    QSslConfiguration identity = QSslConfiguration::defaultConfiguration();
-    identity.setLocalCertificate(QSslCertificate(bytesOf(path("tls.pem"))));
-    identity.setPrivateKey(QSslKey(bytesOf(path("tls.key")), QSsl::Ec));
-    secure_.setSslConfiguration(identity);
-    listen(secure_);
-    listen(plain_);
+    const QTemporaryDir folder;
+    const QString key = folder.filePath("key"), certificate = folder.filePath("certificate");
+    run("openssl",
+        {"req", "-x509", "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:prime256v1", "-nodes", "-subj",
+         "/CN=localhost", "-addext", "subjectAltName=DNS:localhost", "-keyout", key, "-out", certificate});
+    tls.setLocalCertificate(QSslCertificate(bytesOf(certificate)));
+    tls.setPrivateKey(QSslKey(bytesOf(key), QSsl::Ec));
+    tls.setCaCertificates({tls.localCertificate()});
+    secure.setSslConfiguration(tls);
+    listen(secure);
+    listen(plain);
   }
 
-  /// The beginning of an address for a manner of answering. The host's certificate is for its name alone.
+  /// The beginning of an address.
   std::string address(const std::string& manner, const std::string& host = "localhost") const {
-    return "https://" + host + ':' + std::to_string(secure_.serverPort()) + '/' + manner + '/';
+    return "https://" + host + ':' + std::to_string(secure.serverPort()) + '/' + manner + '/';
   }
-
   /// That of a host that is not secure, for the same files.
   std::string plainAddress() const {
-    return "http://localhost:" + std::to_string(plain_.serverPort()) + "/good/";
+    return "http://localhost:" + std::to_string(plain.serverPort()) + "/good/";
   }
-
-  /// Trusts this host's certificate and no other.
-  QSslConfiguration trust() const {
-    QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
-    configuration.setCaCertificates({QSslCertificate(bytesOf(path("tls.pem")))});
-    return configuration;
-  }
-
-  void serve(const std::string& name, const std::string& bytes) const {
-    QFile file(path(name));
-    if (!file.open(QFile::WriteOnly) || file.write(QByteArray::fromStdString(bytes)) < 0)
-      qFatal("cannot write a file");
-  }
-
-  void publish(const std::string& name, const std::string& bytes) const {
-    serve(name, bytes);
-    run(kSignFeed, {path("feed.key"), path(name)});
-  }
-
-  std::string publicKey() const {
-    return run(kSignFeed, {"--public", path("feed.key")}).trimmed().toStdString();
-  }
+  /// Trusts this host and no other.
+  QtFeedSource::Options trust(std::chrono::milliseconds timeLimit = kNever) const { return {timeLimit, tls}; }
 
  private:
-  QString path(const std::string& name) const { return folder_.filePath(QString::fromStdString(name)); }
-
   void listen(QTcpServer& server) {
     QObject::connect(&server, &QTcpServer::pendingConnectionAvailable, &server, [this, &server] {
       QTcpSocket* client = server.nextPendingConnection();
@@ -117,98 +84,103 @@ class HttpsHost {
   }
 
   void answer(QTcpSocket& client) const {
-    const QList<QByteArray> parts = client.readLine().split(' ').value(1).split('/');  // "", manner, name
-    const QByteArray manner = parts.value(1), name = parts.value(2);
+    const QList<QByteArray> path = client.readLine().split(' ').value(1).split('/');
+    const QByteArray manner = path.value(1), name = path.value(2);
     if (manner == "silent") return;
-    if (manner == "slow" || manner == "endless") {
-      client.write("HTTP/1.1 200 OK\r\n\r\n");
-      return manner == "slow" ? writeOnAndOn(client, " ", 10)
-                              : writeOnAndOn(client, QByteArray(4096, ' '), 0);
-    }
-    const QString file = path(name.toStdString());
-    const std::map<QByteArray, QByteArray> places{{"moved", "/good/" + name},
-                                                  {"moved-again", "/moved-again/" + name},
-                                                  {"moved-to-http", plainAddress().c_str() + name},
-                                                  {"moved-to-file", "file://" + file.toUtf8()}};
-    QByteArray status = QFile::exists(file) ? "200 OK" : "404 Not Found";
-    if (manner == "gone") status = "404 Not Found";
-    if (manner == "partial") status = "206 Partial Content";
-    const auto place = places.find(manner);
-    if (place != places.end()) status = "302 Found\r\nLocation: " + place->second;
-    const QByteArray body = bytesOf(file);
-    const auto length = QByteArray::number(body.size() + (manner == "truncated" ? 1 : 0));
-    client.write("HTTP/1.1 " + status + "\r\nConnection: close\r\nContent-Length: " + length + "\r\n\r\n" +
-                 body);
+    if (manner == "slow") return writeOnAndOn(client, " ", 10);
+    if (manner == "endless") return writeOnAndOn(client, QByteArray(4096, ' '), 0);
+    const auto file = files.find(name);
+    const std::map<QByteArray, QByteArray> statuses{
+        {"gone", "404 Not Found"},
+        {"partial", "206 Partial Content"},
+        {"moved", "302 Found\r\nLocation: /good/" + name},
+        {"moved-again", "302 Found\r\nLocation: /moved-again/" + name},
+        {"moved-to-http", ("302 Found\r\nLocation: " + plainAddress()).c_str() + name},
+        {"moved-to-file", "302 Found\r\nLocation: file:///etc/passwd"}};
+    const auto status = statuses.find(file == files.end() ? "gone" : manner);
+    const QByteArray body = file == files.end() ? "" : file->second;
+    client.write("HTTP/1.1 " + (status == statuses.end() ? "200 OK" : status->second));
+    client.write("\r\nConnection: close\r\nContent-Length: ");
+    client.write(QByteArray::number(body.size() + (manner == "truncated" ? 1 : 0)) + "\r\n\r\n" + body);
     client.disconnectFromHost();
   }
 
-  QTemporaryDir folder_;
-  QSslServer secure_;
-  QTcpServer plain_;
+  /// Goes on until the client leaves.
+  static void writeOnAndOn(QTcpSocket& client, const QByteArray& bytes, int milliseconds) {
+    client.write("HTTP/1.1 200 OK\r\n\r\n");
+    auto* timer = new QTimer(&client);
+    QObject::connect(timer, &QTimer::timeout, &client, [&client, bytes] {
+      if (client.bytesToWrite() == 0) client.write(bytes);
+    });
+    timer->start(milliseconds);
+  }
+
+  QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+  QSslServer secure;
+  QTcpServer plain;
 };
 
-class UpdatesOverHttps : public testing::Test {
+class FeedsOverHttps : public testing::Test {
  protected:
-  static void SetUpTestSuite() {
-    host = std::make_unique<HttpsHost>();
-    host->publish("new.json", feedOf("1.2.0"));
-    host->publish("old.json", feedOf("1.0.0"));
-    host->publish("forged.json", feedOf("1.2.0"));
-    host->serve("forged.json", feedOf("6.6.6"));
-  }
-  static void TearDownTestSuite() { host.reset(); }
-
-  /// Whether this is what a user is told of the feed at an address.
-  static void expectTold(CheckResult result, const std::string& address, QtFeedSource::Options options) {
+  static std::optional<std::string> fetched(const std::string& address, QtFeedSource::Options options) {
     QtFeedSource source(std::move(options));
-    SimulatedUpdateWindows windows;
-    FeedUpdateController updates({kRunning, address, host->publicKey(), false, ""}, source, windows);
-    updates.checkForUpdates();
-    waitFor([&] { return windows.open; });
-    const bool isNew = result == CheckResult::newVersion;
-    const auto told = messageFor({result, isNew ? parseFeed(feedOf("1.2.0")) : std::nullopt}, kRunning);
-    EXPECT_EQ(windows.shown, std::vector{told}) << address;
+    std::optional<std::string> answer;
+    bool hasAnswer = false;
+    source.fetch(address, 10'000, [&](auto got) {
+      answer = std::move(got);
+      hasAnswer = true;
+    });
+    waitFor([&] { return hasAnswer; });
+    return answer;
   }
 
-  static inline std::unique_ptr<HttpsHost> host;
+  static inline HttpsHost* host = nullptr;
+  static void SetUpTestSuite() { host = new HttpsHost; }
+  static void TearDownTestSuite() { delete host; }
 };
 
-TEST_F(UpdatesOverHttps, KeepTheContractOfASource) {
-  QtFeedSource source({kNever, host->trust()});
-  const auto serve = [](const std::string& name, const std::string& bytes) { host->serve(name, bytes); };
+TEST_F(FeedsOverHttps, KeepTheContractOfASource) {
+  QtFeedSource source(host->trust());
+  const auto serve = [](const std::string& name, const std::string& bytes) {
+    host->files[name.c_str()] = QByteArray::fromStdString(bytes);
+  };
   expectFeedSourceContract(source, {host->address("good"), host->plainAddress(), serve, waitFor});
 }
 
-TEST_F(UpdatesOverHttps, AreToldByWhatTheHostAnswers) {
-  expectTold(CheckResult::newVersion, host->address("good") + "new.json", {kNever, host->trust()});
-  expectTold(CheckResult::newVersion, host->address("moved") + "new.json", {kNever, host->trust()});
-  expectTold(CheckResult::upToDate, host->address("good") + "old.json", {kNever, host->trust()});
-  expectTold(CheckResult::notSigned, host->address("good") + "forged.json", {kNever, host->trust()});
+TEST_F(FeedsOverHttps, AreTakenWhereTheHostAnswersWholeAndSecurely) {
+  for (const char* manner : {"good", "moved"})
+    EXPECT_EQ(fetched(host->address(manner) + "feed", host->trust()), "bytes") << manner;
   for (const char* manner :
        {"gone", "partial", "truncated", "endless", "moved-to-http", "moved-to-file", "moved-again"})
-    expectTold(CheckResult::notLoaded, host->address(manner) + "new.json", {kNever, host->trust()});
-}
-
-TEST_F(UpdatesOverHttps, AreNotWaitedForBeyondTheTimeLimit) {
+    EXPECT_EQ(fetched(host->address(manner) + "feed", host->trust()), std::nullopt) << manner;
   for (const char* manner : {"slow", "silent"})
-    expectTold(CheckResult::notLoaded, host->address(manner) + "new.json", {200ms, host->trust()});
+    EXPECT_EQ(fetched(host->address(manner) + "feed", host->trust(200ms)), std::nullopt) << manner;
+  EXPECT_EQ(fetched(host->address("good") + "feed", {kNever, {}}), std::nullopt) << "it is not trusted";
+  EXPECT_EQ(fetched(host->address("good", "127.0.0.1") + "feed", host->trust()), std::nullopt);
 }
 
-TEST_F(UpdatesOverHttps, AreNotTakenFromAHostThatIsNotTrusted) {
-  expectTold(CheckResult::notLoaded, host->address("good") + "new.json", {kNever, {}});
-  expectTold(CheckResult::notLoaded, host->address("good", "127.0.0.1") + "new.json",
-             {kNever, host->trust()});
-}
-
-TEST_F(UpdatesOverHttps, AreDroppedWithTheSource) {
-  auto source = std::make_unique<QtFeedSource>(QtFeedSource::Options{kNever, host->trust()});
-  bool late = false, next = false;
-  source->fetch(host->address("silent") + "new.json", 100, [&](const auto&) { late = true; });
-  source->fetch(host->plainAddress() + "new.json", 100, [&](const auto&) { late = true; });
-  source = std::make_unique<QtFeedSource>(QtFeedSource::Options{kNever, host->trust()});
-  source->fetch(host->address("good") + "new.json", 1000, [&](const auto&) { next = true; });
-  waitFor([&] { return next; });
+TEST_F(FeedsOverHttps, AreDroppedWithTheSource) {
+  auto source = std::make_unique<QtFeedSource>(host->trust());
+  bool late = false;
+  source->fetch(host->address("silent") + "feed", 100, [&](const auto&) { late = true; });
+  source->fetch(host->plainAddress() + "feed", 100, [&](const auto&) { late = true; });
+  source.reset();
+  EXPECT_EQ(fetched(host->address("good") + "feed", host->trust()), "bytes");
   EXPECT_FALSE(late);
+}
+
+TEST(SignedFeeds, AreBelievedFromTheProjectsOwnTool) {
+  constexpr auto kTool = BRIMLE_SOURCE_DIR "/scripts/sign_feed";
+  const QTemporaryDir folder;
+  const QString key = folder.filePath("key"), feed = folder.filePath("feed");
+  run("openssl", {"genpkey", "-algorithm", "ed25519", "-out", key});
+  QFile file(feed);
+  ASSERT_TRUE(file.open(QFile::WriteOnly) && file.write(feedOf("1.2.0").c_str()) > 0 && file.flush());
+  run(kTool, {key, feed});
+  const std::string publicKey = run(kTool, {"--public", key}).trimmed().toStdString();
+  const BuildSettings settings{{{1, 1, 0}}, "", publicKey, false, ""};
+  EXPECT_EQ(judge(bytesOf(feed).toStdString(), bytesOf(feed + ".sig").toStdString(), settings).result,
+            CheckResult::newVersion);
 }
 
 }  // namespace
