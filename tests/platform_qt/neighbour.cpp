@@ -42,18 +42,14 @@ Neighbour::Neighbour(QString service)
     : service_(std::move(service)),
       connection_(nextConnection()),
       call_(QDBusPendingCall::fromError(QDBusError())) {
-  join();
-}
-
-Neighbour::~Neighbour() {
-  QDBusConnection::disconnectFromBus(connection_);
-}
-
-void Neighbour::join() {
   bus_ = QDBusConnection::connectToBus(QDBusConnection::SessionBus, connection_);
   bus_.registerVirtualObject("/", this, QDBusConnection::SubPath);
   for (const char* interface : {"org.kde.StatusNotifierItem", "com.canonical.dbusmenu"})
     bus_.connect({}, {}, interface, {}, this, SLOT(hear(QDBusMessage)));
+}
+
+Neighbour::~Neighbour() {
+  QDBusConnection::disconnectFromBus(connection_);
 }
 
 void Neighbour::appear() {
@@ -61,8 +57,7 @@ void Neighbour::appear() {
 }
 
 void Neighbour::vanish() {
-  QDBusConnection::disconnectFromBus(connection_);
-  join();
+  bus_.unregisterService(service_);
 }
 
 QVariantList Neighbour::ask(const QString& path, const QString& interface, const QString& method,
@@ -75,10 +70,6 @@ QVariantList Neighbour::ask(const QString& path, const QString& interface, const
 bool Neighbour::isRefused(const QString& path, const QString& interface, const QString& method,
                           const QVariantList& arguments) {
   return await(path, interface, method, arguments).isError();
-}
-
-QVariant Neighbour::property(const QString& path, const QString& interface, const QString& name) {
-  return ask(path, "org.freedesktop.DBus.Properties", "Get", {interface, name}).value(0);
 }
 
 /// What the program puts off until it has answered is done, too.

@@ -21,7 +21,7 @@ class Neighbour : public QDBusVirtualObject {
   explicit Neighbour(QString service = {});
   ~Neighbour() override;
 
-  /// Takes its name on the bus, or leaves the bus with all that is open there.
+  /// Takes its name on the bus, or gives it back.
   virtual void appear();
   void vanish();
 
@@ -31,7 +31,6 @@ class Neighbour : public QDBusVirtualObject {
   /// Whether the answer is an error.
   bool isRefused(const QString& path, const QString& interface, const QString& method,
                  const QVariantList& arguments);
-  QVariant property(const QString& path, const QString& interface, const QString& name);
   /// Whether the program has answered the last question.
   bool hasAnswer() const { return call_.isFinished(); }
 
@@ -59,7 +58,6 @@ class Neighbour : public QDBusVirtualObject {
   void hear(const QDBusMessage& signal) { heard.push_back(signal); }
 
  private:
-  void join();
   const QDBusPendingCall& await(const QString& path, const QString& interface, const QString& method,
                                 const QVariantList& arguments);
 

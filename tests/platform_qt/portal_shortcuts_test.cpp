@@ -39,16 +39,15 @@ const Answer kSuccessAlone{0, {}}, kCancelled{1, {}}, kFailure{2, {}}, kOpen{kNe
 const Answer kNothing{0, {{"shortcuts", QVariant::fromValue(std::vector<PortalShortcut>{})}}};
 const Answer kNonsense{0, {{"shortcuts", 7}}};
 
+void press(Neighbour& teller, const QString& session, const QString& id, const QVariant& token) {
+  teller.tell(kPath, kInterface, "Activated",
+              {QVariant::fromValue(QDBusObjectPath(session)), id, qulonglong(1),
+               QVariantMap{{"activation_token", token}}});
+}
+
 struct Portal : Neighbour {
   Portal() : Neighbour("org.freedesktop.portal.Desktop") {}
 
-  void beginAnew(const Manners& newManners, bool keeps) {
-    manners = newManners;
-    keepsShortcuts = keeps;
-    hasBound = false;
-    letters.clear();
-    appear();
-  }
   void appear() override {
     letters += letters.empty() ? "" : " ";
     Neighbour::appear();
@@ -68,20 +67,8 @@ struct Portal : Neighbour {
     if (answer.code != kNever)
       tell(request, "org.freedesktop.portal.Request", "Response", {answer.code, answer.results});
   }
-  void press(const QString& sessionPath, const QString& id, const QVariant& token) {
-    pressedBy(*this, sessionPath, id, token);
-  }
-  static void pressedBy(Neighbour& teller, const QString& sessionPath, const QString& id,
-                        const QVariant& token) {
-    teller.tell(kPath, kInterface, "Activated",
-                {QVariant::fromValue(QDBusObjectPath(sessionPath)), id, qulonglong(1),
-                 QVariantMap{{"activation_token", token}}});
-  }
-  void change(const QString& sessionPath, const QVariant& list) {
-    tell(kPath, kInterface, "ShortcutsChanged", {QVariant::fromValue(QDBusObjectPath(sessionPath)), list});
-  }
-
   Manners manners;
+  bool keepsShortcuts = false;
   std::string letters;  ///< the first of the methods called, with a blank before each life of the portal
   QString session;      ///< the path of the last
 
@@ -96,7 +83,7 @@ struct Portal : Neighbour {
     return {{"shortcuts", isBound ? listOf("new-task", "Press Ctrl+Alt+T") : listOf("other", "F1")}};
   }
 
-  bool keepsShortcuts = false, hasBound = false;
+  bool hasBound = false;
 };
 
 class HotKeyOfPortal : public testing::Test {
@@ -110,54 +97,58 @@ class HotKeyOfPortal : public testing::Test {
   }
   /// Returns when the portal was called as often as that and the program has taken in every answer.
   void waitForLetters(std::size_t count) {
-    waitFor([&] { return portal.letters.size() >= count; });
-    portal.settle(QDBusConnection("brimle-shortcuts"));
+    waitFor([&] { return portal->letters.size() >= count; });
+    portal->settle(QDBusConnection("brimle-shortcuts"));
   }
 
   SimulatedPreferencesStore preferences;
-  Portal portal;
+  std::optional<Portal> portal{std::in_place};
   std::unique_ptr<HotKey> key;
   std::vector<std::string> tokens;
 };
 
 TEST_F(HotKeyOfPortal, IsBoundAtTheFirstStartAndToldWithItsToken) {
-  portal.appear();
+  portal->appear();
   start();
   int changes = 0;
   const Subscription observing = key->observe([&] { ++changes; });
   waitForLetters(4);
   EXPECT_EQ(key->keyInForce(), kKey);
   EXPECT_EQ(changes, 1);
-  EXPECT_EQ(plainArguments(portal.calls.front()).value(0), "org.brimle.Brimle");
+  EXPECT_EQ(plainArguments(portal->calls.front()).value(0), "org.brimle.Brimle");
   const QVariantMap details{{"description", "New Task"}, {"preferred_trigger", "CTRL+ALT+t"}};
   const QVariantList wanted{QVariantList{"new-task", details}};
-  EXPECT_EQ(plainArguments(portal.calls.back()).value(1).toList(), wanted);
+  EXPECT_EQ(plainArguments(portal->calls.back()).value(1).toList(), wanted);
 
-  portal.press("/another/session", "new-task", "no");
-  portal.press(portal.session, "another", "no");
+  press(*portal, "/another/session", "new-task", "no");
+  press(*portal, portal->session, "another", "no");
   Neighbour forger;
-  Portal::pressedBy(forger, portal.session, "new-task", "forged");
+  press(forger, portal->session, "new-task", "forged");
   forger.settle();
-  portal.press(portal.session, "new-task", 7);
-  portal.press(portal.session, "new-task", "token");
+  press(*portal, portal->session, "new-task", 7);
+  press(*portal, portal->session, "new-task", "token");
   waitFor([&] { return tokens.size() >= 2; });
   EXPECT_THAT(tokens, ElementsAre("", "token"));
 }
 
 TEST_F(HotKeyOfPortal, FollowsWhatThePortalTellsOfItsSession) {
-  portal.appear();
+  portal->appear();
   start();
   waitForKey(kKey);
-  portal.change("/another/session", listOf("new-task", "F3"));
-  portal.change(portal.session, QStringList{"new-task"});
-  portal.tell(kPath, kInterface, "ShortcutsChanged", {});
-  portal.tell(kPath, kInterface, "Activated", {7});
+  const auto change = [&](const QString& session, const QVariant& list) {
+    portal->tell(kPath, kInterface, "ShortcutsChanged",
+                 {QVariant::fromValue(QDBusObjectPath(session)), list});
+  };
+  change("/another/session", listOf("new-task", "F3"));
+  change(portal->session, QStringList{"new-task"});
+  portal->tell(kPath, kInterface, "ShortcutsChanged", {});
+  portal->tell(kPath, kInterface, "Activated", {7});
   std::vector<std::string> keys;
   const Subscription observing = key->observe([&] { keys.push_back(key->keyInForce()); });
-  portal.change(portal.session, listOf("new-task", "F4"));
-  portal.change(portal.session, listOf("another", "F5"));
-  portal.change(portal.session, listOf("new-task", "F6"));
-  portal.tell(portal.session, "org.freedesktop.portal.Session", "Closed", {});
+  change(portal->session, listOf("new-task", "F4"));
+  change(portal->session, listOf("another", "F5"));
+  change(portal->session, listOf("new-task", "F6"));
+  portal->tell(portal->session, "org.freedesktop.portal.Session", "Closed", {});
   waitFor([&] { return keys.size() >= 4; });
   EXPECT_THAT(keys, ElementsAre("F4", "", "F6", ""));
 }
@@ -187,23 +178,25 @@ TEST_F(HotKeyOfPortal, AsksTheUserOnce) {
   for (const auto& [portalThat, manners, keepsShortcuts, expectedKey, calls] : kCases) {
     SCOPED_TRACE(portalThat);
     preferences.values.clear();
-    portal.beginAnew(manners, keepsShortcuts);
+    portal.emplace();
+    portal->manners = manners;
+    portal->keepsShortcuts = keepsShortcuts;
+    portal->appear();
     start();
     waitForLetters(calls.find(' '));
     EXPECT_EQ(key->keyInForce(), expectedKey);
-    portal.vanish();
+    portal->vanish();
     waitForKey("");
-    portal.appear();
+    portal->appear();
     waitForLetters(calls.rfind(' '));
     EXPECT_EQ(key->keyInForce(), expectedKey);
     key.reset();
-    portal.letters += ' ';
+    portal->letters += ' ';
     start();
     waitForLetters(calls.size());
     EXPECT_EQ(key->keyInForce(), expectedKey);
-    EXPECT_EQ(portal.letters, calls);
+    EXPECT_EQ(portal->letters, calls);
     key.reset();
-    portal.vanish();
   }
 }
 
@@ -216,16 +209,16 @@ TEST_F(HotKeyOfPortal, IsTheWayOnWaylandAndTakenUpWhenAPortalComesThatMakesSense
                                             Answer{0, {{"session_handle", 7}}},
                                             Answer{0, {{"session_handle", "no path"}}}};
   for (const auto& session : sessions) {
-    portal.manners["CreateSession"] = session;
-    portal.appear();
-    waitForLetters(portal.letters.size() + 2);
+    portal->manners["CreateSession"] = session;
+    portal->appear();
+    waitForLetters(portal->letters.size() + 2);
     EXPECT_EQ(key->keyInForce(), "");
-    portal.vanish();
+    portal->vanish();
   }
-  portal.manners.clear();
-  portal.appear();
+  portal->manners.clear();
+  portal->appear();
   waitForKey(kKey);
-  EXPECT_EQ(portal.letters, "RC RC RC RC RC RCLB");
+  EXPECT_EQ(portal->letters, "RC RC RC RC RC RCLB");
 }
 
 }  // namespace

@@ -42,7 +42,9 @@ struct Panel : Neighbour {
     EXPECT_EQ(registrations, count);
   }
 
-  QVariant shown(const QString& name) { return property(path, kItem, name); }
+  QVariant shown(const QString& name) {
+    return ask(path, "org.freedesktop.DBus.Properties", "Get", {kItem, name}).value(0);
+  }
   std::string tooltip() { return shown("ToolTip").toList().value(2).toString().toStdString(); }
   /// The item's icon of that many pixels; a null image where it has none.
   QImage icon(int side) {
