@@ -1,3 +1,4 @@
+// When the days of a zone begin.
 #include "platform/civil.h"
 
 #include <gtest/gtest.h>

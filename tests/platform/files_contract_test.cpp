@@ -64,18 +64,5 @@ TEST_P(FilesContract, FilesAndWholeFoldersAreRenamedAndRemoved) {
   EXPECT_THAT(files.list(root), Optional(UnorderedElementsAre("to")));
 }
 
-TEST(MemoryFiles, SwitchesMakeItFailAndOnlyReplacesThatWereDoneAreCounted) {
-  MemoryFiles files;
-  files.put("/data/day", "old");
-  const auto save = [&](std::string_view bytes) { return files.replace("/data/day", {{bytes}}); };
-  EXPECT_TRUE(save("3") && save("4"));
-  files.diskFull = true;
-  EXPECT_FALSE(save("5") || files.createFolders("/new"));
-  EXPECT_TRUE(files.rename("/data/day", "/kept"));
-  files.unavailable = true;
-  EXPECT_FALSE(files.exists("/data") || files.read("/kept") || files.list("/data") || files.remove("/kept"));
-  EXPECT_EQ(files.replaces("/data/day"), 2);
-}
-
 }  // namespace
 }  // namespace brimle

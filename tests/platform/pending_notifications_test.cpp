@@ -1,7 +1,7 @@
+// How waiting reminders are written down, and which lines are read again.
 #include "platform/pending_notifications.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace brimle {
 namespace {

@@ -23,9 +23,9 @@ TEST_F(PosixFilesTest, LinksStayAndWhatTheyPointToIsReplaced) {
   const Path real = folder.path / "real", links = folder.path / "links";
   files.createFolders(real);
   files.createFolders(links);
-  const std::pair<const char*, Path> cases[] = {
-      {"absolute", real / "day"}, {"relative", "../real/day"}, {"chain", "relative"}};
-  for (const auto& [link, target] : cases) {
+  for (const auto& [link, target] : {std::pair<const char*, Path>("absolute", real / "day"),
+                                     {"relative", "../real/day"},
+                                     {"chain", "relative"}}) {
     std::filesystem::create_symlink(target, links / link);
     files.remove(real / "day");
     for (const char* bytes : {"made", "replaced"}) {

@@ -1,3 +1,4 @@
+// Who holds a folder, and until when.
 #include "platform/desktop/posix_folder_lock.h"
 
 #include <gtest/gtest.h>

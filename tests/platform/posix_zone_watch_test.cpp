@@ -1,3 +1,4 @@
+// Which changes of the system's zone are told.
 #include "platform/desktop/posix_zone_watch.h"
 
 #include <gtest/gtest.h>
@@ -65,9 +66,6 @@ TEST_F(ZoneWatchTest, TellsOfAnotherZoneOnceItsDataIsThereAndTheDayFollows) {
     EXPECT_FALSE(watch.takeChange()) << "it is told once";
   }
   EXPECT_EQ(std::getenv("TZ"), ":" + file.string());
-}
-
-TEST(ZoneWatch, IsSilentWhereThereIsNoFolder) {
   EXPECT_FALSE(ZoneWatch("/nowhere/localtime").takeChange());
 }
 

@@ -1,18 +1,16 @@
+// How links are handed to the desktop's program for them.
 #include "platform/desktop/qt_link_opener.h"
 
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
-#include <QTest>
 #include <fstream>
 
 #include "platform/temp_folder.h"
+#include "platform_qt/patience.h"
 
 namespace brimle {
 namespace {
-
-constexpr int kPatience = 60'000;  // milliseconds; only a broken machine needs them
 
 /// Stands for the desktop's xdg-open: it takes its time until it is let go, then writes down what it was
 /// given.
@@ -21,38 +19,30 @@ class LinkProgram : public testing::Test {
   LinkProgram() {
     const std::string path = folder.path.string();
     if (::mkfifo((path + "/gate").c_str(), 0600) != 0) std::abort();
-    std::ofstream(path + "/xdg-open")
-        << "#!/bin/sh\ncd " << path << "\nread go <gate\nprintf '%s|' \"$@\" >opened\n";
-    std::filesystem::permissions(path + "/xdg-open", std::filesystem::perms(0700));
+    std::ofstream(program) << "#!/bin/sh\ncd " << path << "\nread go <gate\nprintf '%s|' \"$@\" >opened\n";
+    std::filesystem::permissions(program, std::filesystem::perms(0700));
     qputenv("PATH", path.c_str() + (":" + oldPath));
   }
   ~LinkProgram() override { qputenv("PATH", oldPath); }
 
-  bool hasOpened() const { return std::filesystem::exists(folder.path / "opened"); }
-
   static bool isRunning() { return ::waitid(P_ALL, 0, nullptr, WEXITED | WNOHANG | WNOWAIT) == 0; }
-  static void awaitEnd() {
-    EXPECT_TRUE(QTest::qWaitFor([] { return !isRunning(); }, kPatience));
-  }
-
   std::string letGo() {
     std::ofstream(folder.path / "gate") << "go\n";
-    awaitEnd();
+    waitFor([] { return !isRunning(); });
     std::string given;
-    std::getline(std::ifstream(folder.path / "opened"), given);
-    std::filesystem::remove(folder.path / "opened");
+    std::getline(std::ifstream(opened), given);
+    std::filesystem::remove(opened);
     return given;
   }
 
   const QByteArray oldPath = qgetenv("PATH");
   TempFolder folder;
+  const std::filesystem::path program = folder.path / "xdg-open", opened = folder.path / "opened";
   QtLinkOpener opener;
 };
 
 TEST_F(LinkProgram, IsGivenTheLinkAndNotWaitedFor) {
-  const struct {
-    const char *link, *given;
-  } kCases[] = {
+  const std::pair<const char*, const char*> kCases[] = {
       {"mailto:support@brimle.invalid?subject=Brimle%20feedback",
        "mailto:support@brimle.invalid?subject=Brimle%20feedback|"},
       {"https://a.example/b?c=%2F&d='e'#f", "https://a.example/b?c=%2F&d='e'#f|"},
@@ -61,7 +51,7 @@ TEST_F(LinkProgram, IsGivenTheLinkAndNotWaitedFor) {
   };
   for (const auto& [link, given] : kCases) {
     opener.open(link);
-    EXPECT_FALSE(hasOpened());
+    EXPECT_FALSE(std::filesystem::exists(opened));
     EXPECT_EQ(letGo(), given);
   }
 }
@@ -74,11 +64,10 @@ TEST_F(LinkProgram, IsNotStartedForWhatIsNoLink) {
 }
 
 TEST_F(LinkProgram, MayBeAbsent) {
-  std::filesystem::remove(folder.path / "xdg-open");
+  std::filesystem::remove(program);
   qputenv("PATH", folder.path.c_str());
   opener.open("https://a.example/");
-  awaitEnd();
-  EXPECT_FALSE(hasOpened());
+  waitFor([] { return !isRunning(); });
 }
 
 }  // namespace

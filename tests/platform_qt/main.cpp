@@ -5,15 +5,16 @@
 #include <QApplication>
 #include <QProcess>
 
+#include "platform_qt/patience.h"
+
 namespace {
 
 constexpr auto kInside = "BRIMLE_PLATFORM_TESTS_INSIDE";
-constexpr int kPatience = 60'000;  // milliseconds; only a broken machine needs them
 
 int runInside(QStringList arguments) {
   QProcess display;
   display.start("Xvfb", {"-displayfd", "1", "-screen", "0", "640x480x24", "-nolisten", "tcp"});
-  if (!display.waitForReadyRead(kPatience)) qFatal("the X server does not start");
+  if (!display.waitForReadyRead(brimle::kPatience)) qFatal("the X server does not start");
   qputenv("DISPLAY", ':' + display.readLine().trimmed());
   qputenv("QT_QPA_PLATFORM", "xcb");
   qputenv(kInside, "1");
@@ -23,7 +24,7 @@ int runInside(QStringList arguments) {
                         QCoreApplication::applicationFilePath()};
   const int result = QProcess::execute("dbus-run-session", bus + arguments.mid(1));
   display.terminate();
-  display.waitForFinished(kPatience);
+  display.waitForFinished(brimle::kPatience);
   return result;
 }
 

@@ -1,59 +1,102 @@
+// The icon in the panel: on which panels it appears, what it shows there, and what it does when it is used.
 #include "platform/desktop/qt_status_item.h"
 
 #include <gmock/gmock.h>
 
+#include <QDBusObjectPath>
+#include <QtEndian>
+
 #include "platform/desktop/qt_status_icon.h"
-#include "platform_qt/panel.h"
+#include "platform_qt/neighbour.h"
+#include "platform_qt/patience.h"
 
 namespace brimle {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::SizeIs;
 
+constexpr auto kWatcher = "org.kde.StatusNotifierWatcher";
+constexpr auto kItem = "org.kde.StatusNotifierItem";
 constexpr QRgb kDarkInk = qRgb(0x2b, 0x2b, 0x2b);
 constexpr QRgb kLightInk = qRgb(0xf2, 0xf2, 0xf2);
+
+/// A panel as status items see it: the watcher that they register with, which takes none before it has a
+/// host, and the host, which asks the last of them what it shows.
+struct Panel : Neighbour {
+  Panel() : Neighbour(kWatcher) {}
+
+  void answer(const QDBusMessage& call) override {
+    if (!hasHost) return refuse(call);
+    path = call.arguments().value(0).toString();
+    ++registrations;
+    reply(call, {});
+  }
+  void gainHost() {
+    hasHost = true;
+    tell("/StatusNotifierWatcher", kWatcher, "StatusNotifierHostRegistered", {});
+  }
+  void awaitRegistrations(int count) {
+    waitFor([&] { return registrations >= count; });
+    settle();
+    EXPECT_EQ(registrations, count);
+  }
+
+  QVariant shown(const QString& name) {
+    return ask(path, "org.freedesktop.DBus.Properties", "Get", {kItem, name}).value(0);
+  }
+  std::string tooltip() { return shown("ToolTip").toList().value(2).toString().toStdString(); }
+  /// The item's icon of that many pixels; a null image where it has none.
+  QImage icon(int side) {
+    for (const QVariant& picture : shown("IconPixmap").toList()) {
+      const QVariantList parts = picture.toList();  // width, height, pixels
+      const QByteArray pixels = parts[2].toByteArray();
+      if (parts[0] != side || parts[1] != side || pixels.size() != 4 * side * side) continue;
+      QImage image(side, side, QImage::Format_ARGB32);
+      qFromBigEndian<quint32>(pixels.constData(), side * side, image.bits());
+      return image;
+    }
+    return {};
+  }
+  QRgb ink() { return icon(32).pixel(16, 0) | 0xff000000; }  // at the top of the ring
+  auto news(const char* signal) const { return std::ranges::count(heard, signal, &QDBusMessage::member); }
+  void use(const char* method, const QVariantList& arguments) { ask(path, kItem, method, arguments); }
+
+  bool hasHost = true;
+  int registrations = 0;
+  QString path;
+};
 
 class StatusItemTest : public testing::Test {
  protected:
   void install(QtStatusItem& one) {
     one.install({.click = [this](const std::string& token) { journal.push_back("click " + token); },
-                 .menu = [this] { return menu(); }});
+                 .menu =
+                     [this] {
+                       return std::vector<MenuEntry>{{.title = first}, {.title = "Quit"}};
+                     }});
   }
   /// On a panel that is there.
   void show() {
-    panel.start();
+    panel.appear();
     install(item);
     panel.awaitRegistrations(1);
-  }
-
-  std::vector<MenuEntry> menu() {
-    const auto writing = [this](const char* what) { return [this, what] { journal.emplace_back(what); }; };
-    std::vector<MenuEntry> rows{{.title = first},
-                                {},
-                                {.title = "New Task", .action = writing("new")},
-                                {.title = "This & th_at", .action = writing("that"), .on = true}};
-    if (longer) rows.push_back({.title = "Quit Brimle", .action = writing("quit")});
-    return rows;
   }
 
   static QImage picture(int side, long long count) {
     return statusPicture(side, count, kDarkInk).convertToFormat(QImage::Format_ARGB32);
   }
-  QRgb inkShown() { return panel.icon(32).pixel(16, 0) | 0xff000000; }  // at the top of the ring
 
   Panel panel;
   QtSettingsPortal settings;
+  std::vector<MenuEntry> poppedUp;
+  QPoint poppedUpAt;
   QtStatusItem::PopUp popUp = [this](const std::vector<MenuEntry>& items, QPoint place) {
     poppedUp = items;
     poppedUpAt = place;
   };
   QtStatusItem item{settings, false, popUp};
-  std::vector<MenuEntry> poppedUp;
-  QPoint poppedUpAt;
   std::string first = "1 task";
-  bool longer = false;
   std::vector<std::string> journal;
 };
 
@@ -61,30 +104,25 @@ TEST_F(StatusItemTest, AppearsOnceAPanelIsThereAndOnEachThatFollows) {
   install(item);
   item.setTitle(" 3", "3 tasks");
   panel.settle();
-  panel.start(false);
+  panel.hasHost = false;
+  panel.appear();
   panel.settle();
   EXPECT_EQ(panel.registrations, 0);
   panel.gainHost();
   panel.awaitRegistrations(1);
   EXPECT_EQ(panel.tooltip(), "3 tasks");
   EXPECT_EQ(panel.icon(22), picture(22, 3));
+  EXPECT_EQ(panel.shown("Status"), "Active") << "any other is hidden";
 
   panel.gainHost();
   panel.settle();
   EXPECT_EQ(panel.registrations, 1) << "it was taken already";
 
-  panel.stop();
+  panel.vanish();
   item.setTitle(" 4", "4 tasks");
-  panel.start();
+  panel.appear();
   panel.awaitRegistrations(2);
   EXPECT_EQ(panel.tooltip(), "4 tasks");
-}
-
-TEST_F(StatusItemTest, AppearsOnAPanelThatComesLater) {
-  install(item);
-  panel.settle();
-  panel.start();
-  panel.awaitRegistrations(1);
 }
 
 TEST_F(StatusItemTest, ShowsTheCountInItsIconAndTellsItInWords) {
@@ -92,134 +130,96 @@ TEST_F(StatusItemTest, ShowsTheCountInItsIconAndTellsItInWords) {
   const struct {
     const char *title, *tooltip;
     long long count;
-  } kCases[] = {{" 1", "1 task", 1},
-                {" 12", "12 tasks", 12},
-                {" 250", "250 tasks", 250},
-                {"", "all done", 0},
-                {" 7", "7 Aufgaben", 7},
-                {"no number", "", 0},
-                {" 99999999999999999999", "too many", 0}};
-  for (const auto& [title, tooltip, count] : kCases) {
+    int icons, tooltips;  ///< how many times the panel is told that there is a new one
+  } kCases[] = {{" 1", "1 task", 1, 1, 1},
+                {" 250", "250 tasks", 250, 1, 1},
+                {" 250", "250 Aufgaben", 250, 0, 1},
+                {" 7", "250 Aufgaben", 7, 1, 0},
+                {"", "all done", 0, 1, 1},
+                {"no number", "", 0, 0, 1},
+                {" 99999999999999999999", "too many", 0, 0, 1}};
+  for (const auto& [title, tooltip, count, icons, tooltips] : kCases) {
+    SCOPED_TRACE(title);
+    panel.heard.clear();
     item.setTitle(title, tooltip);
     EXPECT_EQ(panel.tooltip(), tooltip);
-    for (const int side : {16, 22, 24, 32, 48, 64})
-      EXPECT_EQ(panel.icon(side), picture(side, count)) << title << side;
+    for (const int side : {16, 22, 24, 32, 48, 64}) EXPECT_EQ(panel.icon(side), picture(side, count)) << side;
+    EXPECT_EQ(panel.news("NewIcon"), icons);
+    EXPECT_EQ(panel.news("NewToolTip"), tooltips);
   }
 }
 
-TEST_F(StatusItemTest, SendsItsIconOnlyWhenItChanges) {
+TEST_F(StatusItemTest, TakesTheColourThatTheUserAsksFor) {
   show();
-  item.setTitle(" 5", "5 tasks");
-  panel.tooltip();
-  const int icons = panel.newIcons, toolTips = panel.newToolTips;
-  item.setTitle(" 5", "5 Aufgaben");
-  EXPECT_EQ(panel.tooltip(), "5 Aufgaben");
-  EXPECT_EQ(panel.newIcons, icons);
-  EXPECT_EQ(panel.newToolTips, toolTips + 1);
-  item.setTitle(" 6", "5 Aufgaben");
-  panel.tooltip();
-  EXPECT_EQ(panel.newIcons, icons + 1);
-  EXPECT_EQ(panel.newToolTips, toolTips + 1);
-}
-
-TEST_F(StatusItemTest, TakesTheColourOfThePanel) {
-  show();
-  EXPECT_EQ(inkShown(), kDarkInk);
-  const QRgb expected[] = {kDarkInk, kLightInk, kDarkInk};
-  for (const uint colorScheme : {1u, 2u, 0u}) {
-    panel.prefer(colorScheme);
-    EXPECT_EQ(inkShown(), expected[colorScheme]) << colorScheme;
+  Neighbour portal("org.freedesktop.portal.Desktop");
+  portal.appear();
+  portal.waitForCalls(1);
+  portal.settle();
+  for (const auto& [colorScheme, ink] : {std::pair(1u, kLightInk), {2u, kDarkInk}, {0u, kDarkInk}}) {
+    portal.tell(
+        "/org/freedesktop/portal/desktop", "org.freedesktop.portal.Settings", "SettingChanged",
+        {"org.freedesktop.appearance", "color-scheme", QVariant::fromValue(QDBusVariant(colorScheme))});
+    portal.settle();
+    EXPECT_EQ(panel.ink(), ink) << colorScheme;
   }
 }
 
 TEST_F(StatusItemTest, IsLightOnAPanelThatIsAlwaysDark) {
-  panel.start();
+  panel.appear();
   const struct {
     const char* desktop;
     bool looksDark;
     QRgb ink;
-  } kCases[] = {{"GNOME", false, kLightInk},
-                {"ubuntu:GNOME", false, kLightInk},
+  } kCases[] = {{"ubuntu:GNOME", false, kLightInk},
                 {"GNOME-Classic:GNOME", false, kDarkInk},
                 {"KDE", false, kDarkInk},
                 {"KDE", true, kLightInk},
-                {"XFCE", false, kLightInk},
                 {"", true, kLightInk}};
   for (const auto& [desktop, looksDark, ink] : kCases) {
     qputenv("XDG_CURRENT_DESKTOP", desktop);
     QtStatusItem one(settings, looksDark, popUp);
     install(one);
     panel.awaitRegistrations(panel.registrations + 1);
-    EXPECT_EQ(inkShown(), ink) << desktop;
+    EXPECT_EQ(panel.ink(), ink) << desktop;
   }
   qunsetenv("XDG_CURRENT_DESKTOP");
 }
 
-TEST_F(StatusItemTest, IsClickedWithTheTokenOfThatClick) {
+TEST_F(StatusItemTest, HasItsMenuAsItIsNow) {
   show();
-  panel.call("ProvideXdgActivationToken", {"token 1"});
-  panel.call("Activate", {0, 0});
-  panel.call("Activate", {0, 0});
-  EXPECT_THAT(journal, ElementsAre("click token 1", "click "));
-}
+  const QString path = panel.shown("Menu").value<QDBusObjectPath>().path();
+  for (const char* title : {"1 task", "2 tasks"}) {
+    first = title;
+    const QVariantList layout =
+        panel.ask(path, "com.canonical.dbusmenu", "GetLayout", {0, -1, QStringList()});
+    const QVariantList row = layout.value(1).toList().value(2).toList().value(0).toList();
+    EXPECT_EQ(row.value(1).toMap()["label"], title);
+  }
 
-TEST_F(StatusItemTest, AsksForItsMenuEachTimeItOpens) {
-  show();
-  MenuClient& menu = panel.menu();
-  EXPECT_THAT(menu.rows(), ElementsAre("(1 task)", "-", "New Task", "x This & th__at"));
-  first = "2 tasks";
-  EXPECT_TRUE(menu.open());
-  menu.click(menu.id(2));  // of the rows as they were
-  EXPECT_THAT(menu.rows(), ElementsAre("(2 tasks)", "-", "New Task", "x This & th__at"));
-  longer = true;
-  menu.open();
-  EXPECT_THAT(menu.rows(), SizeIs(5));
-  menu.click(menu.id(4));
-  menu.click(menu.id(3));
-  EXPECT_THAT(journal, ElementsAre("new", "quit", "that"));
-}
-
-TEST_F(StatusItemTest, OpensItsMenuForAPanelThatShowsNone) {
-  show();
-  first = "2 tasks";
-  panel.call("ContextMenu", {120, 45});
+  first = "3 tasks";
+  panel.use("ContextMenu", {120, 45});  // by a panel that shows no menus
   EXPECT_EQ(poppedUpAt, QPoint(120, 45));
-  ASSERT_THAT(poppedUp, SizeIs(4));
-  EXPECT_EQ(poppedUp[0].title, "2 tasks");
+  ASSERT_THAT(poppedUp, SizeIs(2));
+  EXPECT_EQ(poppedUp[0].title, "3 tasks");
 }
 
-TEST_F(StatusItemTest, TellsPanelsWhatItIs) {
+TEST_F(StatusItemTest, IsClickedWithTheTokenOfThatClickAndUnmovedByCallsThatMeanNothing) {
   show();
-  const std::map<QString, QVariant> kProperties{{"Category", "ApplicationStatus"},
-                                                {"Id", "org.brimle.Brimle"},
-                                                {"Title", "Brimle"},
-                                                {"Status", "Active"},
-                                                {"WindowId", 0},
-                                                {"IconName", ""},
-                                                {"ItemIsMenu", false}};
-  for (const auto& [name, value] : kProperties) EXPECT_EQ(panel.property(name), value) << name.toStdString();
-}
-
-TEST_F(StatusItemTest, IsUnmovedByCallsThatMeanNothingToIt) {
-  show();
-  panel.call("SecondaryActivate", {0, 0});
-  panel.call("Scroll", {-120, "vertical"});
+  panel.use("SecondaryActivate", {0, 0});
+  panel.use("Scroll", {-120, "vertical"});
   const std::pair<const char*, QVariantList> kRefused[] = {
       {"Activate", {}}, {"Activate", {"0", "0"}}, {"ProvideXdgActivationToken", {7}}, {"deleteLater", {}}};
   for (const auto& [method, arguments] : kRefused)
-    EXPECT_TRUE(panel.isRefused(method, arguments)) << method << arguments.size();
-  EXPECT_THAT(journal, IsEmpty());
-  panel.call("Activate", {-2147483647, 2147483647});
-  panel.call("ContextMenu", {-2147483647, 2147483647});
-  EXPECT_THAT(journal, ElementsAre("click "));
-  EXPECT_THAT(poppedUp, SizeIs(4));
+    EXPECT_TRUE(panel.isRefused(panel.path, kItem, method, arguments)) << method << arguments.size();
+  panel.use("ProvideXdgActivationToken", {"token 1"});
+  panel.use("Activate", {0, 0});
+  panel.use("Activate", {-2147483647, 2147483647});
+  EXPECT_THAT(journal, ElementsAre("click token 1", "click "));
 }
 
 TEST_F(StatusItemTest, WaitsForNoWatcher) {
-  SilentService silent("org.kde.StatusNotifierWatcher");
-  install(item);
-  item.setTitle(" 3", "3 tasks");
-  EXPECT_TRUE(silent.isNotWaitedFor("RegisterStatusNotifierItem"));
+  panel.appear();
+  EXPECT_TRUE(panel.isNotWaitedFor([&] { install(item); }));
 }
 
 }  // namespace
