@@ -68,7 +68,7 @@ bool readField(const Field& field, dom::element value, Feed& feed) {
 }  // namespace
 
 std::optional<Feed> parseFeed(std::string_view document) {
-  if (document.size() > kLongestFeed) return std::nullopt;
+  if (document.empty() || document.size() > kLongestFeed) return std::nullopt;
   dom::parser parser;
   dom::object object;
   if (parser.parse(document.data(), document.size()).get(object) != simdjson::SUCCESS) return std::nullopt;

@@ -89,7 +89,7 @@ class DesktopCase(unittest.TestCase):
 
     def quit(self):
         hands.press("ctrl+q")
-        self.assertEqual(self.waitUntilEnded(), 0)
+        self.assertEqual(self.waitUntilEnded(), 0, self._said())
 
     def waitUntilEnded(self):
         """Its exit status, as soon as it has ended by itself with its day file as at the last look."""

@@ -14,7 +14,7 @@ from waiting import waitUntil
 WIDTH, HEIGHT = map(int, os.environ.get("BRIMLE_SCREEN", "1280x800").split("x"))  # in pixels
 FOLDERS = {"XDG_DATA_HOME": "data", "XDG_CONFIG_HOME": "config", "XDG_STATE_HOME": "state", "XDG_CACHE_HOME": "cache",
            "XDG_RUNTIME_DIR": "run"}
-KEPT = ("PATH", "BRIMLE_PROGRAM", "ASAN_OPTIONS", "UBSAN_OPTIONS")  # of the environment of the tests
+KEPT = ("PATH", "BRIMLE_PROGRAM", "ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS")  # of the environment of the tests
 
 
 def _zoneAroundNoon():
