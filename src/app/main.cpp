@@ -43,8 +43,8 @@
 #include "prefs/ui_state.h"
 #include "updates/feed_update_controller.h"
 #include "views/content_view.h"
-#include "views/qt/pop_up_menu.h"
 #include "views/qt/main_window.h"
+#include "views/qt/pop_up_menu.h"
 
 namespace brimle {
 namespace {

@@ -17,7 +17,7 @@ MouseArea {
 
     acceptedButtons: Qt.AllButtons
     preventStealing: true
-    drag.target: ghost.item
+    drag.target: ghost.item as Item
     drag.threshold: 8
 
     onPressed: ghost.active = true

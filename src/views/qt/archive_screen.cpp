@@ -1,8 +1,8 @@
 #include "views/qt/archive_screen.h"
 
-#include "views/qt/pop_up_menu.h"
 #include "views/qt/convert.h"
 #include "views/qt/key_events.h"
+#include "views/qt/pop_up_menu.h"
 #include "views/scroll_watch.h"
 
 namespace brimle {

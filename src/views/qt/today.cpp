@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <unordered_set>
 
-#include "views/qt/pop_up_menu.h"
 #include "views/qt/convert.h"
 #include "views/qt/key_events.h"
+#include "views/qt/pop_up_menu.h"
 
 namespace brimle {
 namespace {
