@@ -156,6 +156,12 @@ TEST_F(LocalNotificationCenterTest, ADelayedRequestIsDueWhenItsDelayIsOverUnless
   late(true);
   time.advance(1h);
   EXPECT_EQ(kept(), "2026-06-15 0\tarrival-test\t\t\n");
+
+  start();
+  center->holds = true;
+  time.runUntilIdle();
+  center->held(true);
+  EXPECT_EQ(kept(), "") << "at once, for the program may end now";
 }
 
 }  // namespace

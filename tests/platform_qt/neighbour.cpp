@@ -1,3 +1,4 @@
+// How a neighbour on the bus asks, answers and waits.
 #include "platform_qt/neighbour.h"
 
 #include <QCoreApplication>
