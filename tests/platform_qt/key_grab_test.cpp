@@ -5,7 +5,6 @@
 #include <QAbstractNativeEventFilter>
 #include <QGuiApplication>
 #include <QProcess>
-#include <QWindow>
 #include <cstdlib>
 
 #include "platform/desktop/qt_hot_key.h"
@@ -41,10 +40,7 @@ struct OtherProgram {
 
 class HotKeyOnX11 : public testing::Test, public QAbstractNativeEventFilter {
  protected:
-  HotKeyOnX11() {
-    qGuiApp->installNativeEventFilter(this);
-    window.create();
-  }
+  HotKeyOnX11() { qGuiApp->installNativeEventFilter(this); }
   ~HotKeyOnX11() override { setLayout("us"); }
 
   void start() {
@@ -66,28 +62,30 @@ class HotKeyOnX11 : public testing::Test, public QAbstractNativeEventFilter {
   void settle() {
     xcb_connection_t* connection =
         qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
+    const xcb_window_t window = xcb_generate_id(connection);
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+    xcb_create_window(connection, 0, window, root, 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
+                      XCB_COPY_FROM_PARENT, 0, nullptr);
     xcb_client_message_event_t mark{};
     mark.response_type = XCB_CLIENT_MESSAGE;
     mark.format = 32;
-    mark.window = static_cast<xcb_window_t>(window.winId());
-    xcb_send_event(connection, false, mark.window, 0, reinterpret_cast<const char*>(&mark));
+    mark.window = expected = window;
+    xcb_send_event(connection, false, window, 0, reinterpret_cast<const char*>(&mark));
     xcb_flush(connection);
-    isMarked = false;
-    waitFor([this] { return isMarked; });
+    waitFor([this] { return expected == 0; });
+    xcb_destroy_window(connection, window);
     QCoreApplication::processEvents();
   }
   bool nativeEventFilter(const QByteArray&, void* message, qintptr*) override {
     const auto* event = static_cast<const xcb_client_message_event_t*>(message);
     keyPresses += event->response_type == XCB_KEY_PRESS;
-    const bool isMark =
-        (event->response_type & 0x7f) == XCB_CLIENT_MESSAGE && event->window == window.winId();
-    isMarked = isMarked || isMark;
-    return isMark;
+    const bool isMessage = (event->response_type & 0x7f) == XCB_CLIENT_MESSAGE;
+    if (isMessage && event->window == expected) expected = 0;
+    return false;
   }
 
-  QWindow window;
-  bool isMarked = false;
-  int keyPresses = 0;  ///< that the X server told Qt of
+  xcb_window_t expected = 0;  ///< of the mark that is to come
+  int keyPresses = 0;         ///< that the X server told Qt of
   int presses = 0;
   SimulatedPreferencesStore preferences;
   std::unique_ptr<HotKey> key;
