@@ -98,7 +98,9 @@ int run(int argc, char** argv) {
     return handOver();
   }
 
-  // While the libraries of the desktop are set up.
+  // While the libraries of the desktop are set up. They change the environment, in which the JSON parser
+  // looks when it first reads: it does so before them.
+  readDayFile("{}");
   auto stored = std::async([&] { return readStoredDay(files, dataFolder); });
 
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);

@@ -1,7 +1,6 @@
 #include "views/header_view.h"
 
 #include "i18n/counts.h"
-#include "i18n/dates.h"
 #include "i18n/i18n.h"
 
 namespace brimle {

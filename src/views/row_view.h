@@ -66,7 +66,7 @@ class RowView {
   SelectionModel& sel_;
   Time& time_;
   RowCommands commands_{store_, sel_};
-  /// Shared with the calls that will close a note; one that is opened meanwhile takes their place.
+  /// Of the calls that will close a note: opening another ends them.
   Lifetime closing_;
 };
 

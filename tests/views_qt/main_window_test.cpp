@@ -229,6 +229,13 @@ TEST_F(MainWindowTest, WritesInTheTypefaceAndTheSizesOfTheSettings) {
   EXPECT_TRUE(fontOf(task("A")).strikeOut());
 }
 
+TEST_F(MainWindowTest, OpensTheArchiveAgain) {
+  for (const bool shown : {true, false, true}) {
+    ui->setShowingArchive(shown);
+    EXPECT_EQ(nameOf(field()), shown ? "Search archive" : "Add a task");
+  }
+}
+
 TEST_F(MainWindowTest, ShowsWhereTheKeyboardIsAsItWalksBackFromTheEntryField) {
   EXPECT_FALSE(main->theme().focusShown());
   after("Backtab Up");

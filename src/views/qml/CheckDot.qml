@@ -38,7 +38,7 @@ Item {
     // Most dots of a list are empty.
     Loader {
         anchors.fill: parent
-        active: dot.filled > 0
+        active: dot.done || dot.filled !== 0
         sourceComponent: Item {
             Round {
                 color: Theme.faded(Theme.primary, 0.85)

@@ -20,7 +20,10 @@ MouseArea {
     drag.target: ghost.item as Item
     drag.threshold: 8
 
-    onPressed: ghost.active = true
+    onPressed: (mouse) => {
+        if (mouse.button === Qt.LeftButton) ghost.active = true
+        else mouse.accepted = mouse.button === Qt.RightButton
+    }
     onClicked: (mouse) => {
         if (mouse.button === Qt.RightButton) today.openMenu(taskId, mapToGlobal(mouse.x, mouse.y))
         else if (mouse.button === Qt.LeftButton) today.select(taskId, mouse.modifiers)

@@ -52,6 +52,8 @@ Fonts* Fonts::create(QQmlEngine*, QJSEngine*) {
 }
 
 void Fonts::setBasis(const Basis& basis) {
+  if (basis == basis_) return;
+  basis_ = basis;
   for (const Style& style : kStyles) {
     QFont font(style.family == Family::chosen ? basis.family : basis.systemFamily);
     const double size = style.from == Size::relative ? basis.size + style.size : style.size;

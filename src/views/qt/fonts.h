@@ -37,6 +37,8 @@ class Fonts : public QObject {
     QString systemFamily;  ///< of the desktop
     double size = 0;       ///< of a task's text, in points of the layout
     double scale = 1;      ///< what all sizes are multiplied by
+
+    bool operator==(const Basis&) const = default;
   };
 
   /// The engine would make instances of its own of a class that can be made from nothing.
@@ -57,6 +59,7 @@ class Fonts : public QObject {
   struct Style;
   static const Style kStyles[];
 
+  Basis basis_;
   QFont title_, task_, doneTask_, nothing_, note_, day_, small_, boundary_, badge_, tooltip_;
   QFont section_, key_, description_;
 };

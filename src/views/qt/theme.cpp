@@ -46,7 +46,7 @@ QString findRoundedFamily() {
   return QGuiApplication::font().family();
 }
 
-/// Looked for once: every text of the window asks, and listing the installed families is slow.
+/// Looked for once: listing the installed families is slow.
 QString roundedFamily() {
   static const QString family = findRoundedFamily();
   return family;
