@@ -195,7 +195,8 @@ class DesktopCase(unittest.TestCase):
         def focused():
             controls = [control for control in self.window.all(role, name) if control.focused]
             return controls and (text is None or controls[0].text == text)
-        self.until(focused, f"the {role} {name!r} had the keyboard" + ("" if text is None else f" and held {text!r}"))
+        self.until(focused, lambda: f"the {role} {name!r} had the keyboard"
+                   + ("" if text is None else f" and held {text!r}") + f"; there are\n{self.window.tree()}")
 
     def waitUntilClosed(self, name):
         self.until(lambda: not self.window.all("field", name), f"the field {name!r} was closed")

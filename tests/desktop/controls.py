@@ -101,7 +101,8 @@ class Control:
         return [Control(*child) for child in self._ask("Accessible.GetChildren")]
 
     def tree(self, indent="  "):
-        return "".join(f"{indent}{child.role} {child.name!r}\n{child.tree(indent + '  ')}" for child in self._shown())
+        return "".join(f"{indent}{child.role} {child.name!r}{' with the keyboard' * child.focused}\n"
+                       + child.tree(indent + "  ") for child in self._shown())
 
     def _shown(self):
         return [child for child in self.children() if child._has(_SHOWING)]
