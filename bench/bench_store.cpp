@@ -23,6 +23,12 @@ class TimedCalls : public FileCalls {
   }
 
  public:
+  int stat(const char* path, struct stat* status) override {
+    return counted([&] { return FileCalls::stat(path, status); });
+  }
+  ssize_t readlink(const char* path, char* target, std::size_t size) override {
+    return counted([&] { return FileCalls::readlink(path, target, size); });
+  }
   int open(const char* path, int flags, mode_t mode) override {
     return counted([&] { return FileCalls::open(path, flags, mode); });
   }
