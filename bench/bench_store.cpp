@@ -2,6 +2,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
+
 #include "operations.h"
 #include "platform/desktop/posix_files.h"
 #include "sample_data.h"
@@ -15,7 +17,7 @@ namespace {
 /// Counts the time spent in the system calls of a save.
 class TimedCalls : public FileCalls {
   template <class Call>
-  auto counted(Call call) {
+  auto timed(Call call) {
     const auto start = std::chrono::steady_clock::now();
     const auto result = call();
     total += std::chrono::steady_clock::now() - start;
@@ -24,31 +26,34 @@ class TimedCalls : public FileCalls {
 
  public:
   int stat(const char* path, struct stat* status) override {
-    return counted([&] { return FileCalls::stat(path, status); });
+    return timed([&] { return FileCalls::stat(path, status); });
   }
   ssize_t readlink(const char* path, char* target, std::size_t size) override {
-    return counted([&] { return FileCalls::readlink(path, target, size); });
+    return timed([&] { return FileCalls::readlink(path, target, size); });
   }
   int open(const char* path, int flags, mode_t mode) override {
-    return counted([&] { return FileCalls::open(path, flags, mode); });
+    return timed([&] { return FileCalls::open(path, flags, mode); });
+  }
+  int fstat(int file, struct stat* status) override {
+    return timed([&] { return FileCalls::fstat(file, status); });
   }
   int fchmod(int file, mode_t mode) override {
-    return counted([&] { return FileCalls::fchmod(file, mode); });
+    return timed([&] { return FileCalls::fchmod(file, mode); });
   }
   ssize_t writev(int file, const iovec* pieces, int count) override {
-    return counted([&] { return FileCalls::writev(file, pieces, count); });
+    return timed([&] { return FileCalls::writev(file, pieces, count); });
   }
   int fdatasync(int file) override {
-    return counted([&] { return FileCalls::fdatasync(file); });
+    return timed([&] { return FileCalls::fdatasync(file); });
   }
   int close(int file) override {
-    return counted([&] { return FileCalls::close(file); });
+    return timed([&] { return FileCalls::close(file); });
   }
   int rename(const char* from, const char* to) override {
-    return counted([&] { return FileCalls::rename(from, to); });
+    return timed([&] { return FileCalls::rename(from, to); });
   }
   int unlink(const char* path) override {
-    return counted([&] { return FileCalls::unlink(path); });
+    return timed([&] { return FileCalls::unlink(path); });
   }
 
   std::chrono::duration<double> total{};
@@ -113,6 +118,19 @@ void save(benchmark::State& state, int years) {
   state.counters[kOwnSecondsCounter] = median(std::move(own));
 }
 
+void tick(benchmark::State& state, int years) {
+  OnDisk disk(years);
+  Store& store = disk.place.store;
+  const Store::Ids open{std::ranges::find(store.items(), false, &TodoItem::done)->id};
+  const auto tickOne = [&] {
+    disk.place.pause();
+    const double seconds = secondsOf([&] { store.setDone(open, true); });
+    store.setDone(open, false);
+    return seconds;
+  };
+  compare(state, tickOne, [&] { return disk.bareSave(); });
+}
+
 void addLines(benchmark::State& state, int years) {
   OnDisk disk(years);
   const std::string lines = sampleLines(1000);
@@ -150,6 +168,7 @@ void undo(benchmark::State& state, int years) {
 }  // namespace
 
 const Operation kSave{"save", save, 10, 10};
+const Operation kTick{"tick", tick, 10, 10};
 const Operation kAddLines{"addLines", addLines, 5, 10};
 const Operation kRollover{"rollover", rollover, 5, 10};
 const Operation kUndo{"undo", undo, 5, 10};

@@ -104,12 +104,12 @@ double ChildWindow::bytes() const {
   return numberIn("/proc/" + std::to_string(pid_) + "/smaps_rollup", "Pss") * 1024;
 }
 
-double ChildWindow::sleeps() const {
-  double count = 0;
+ChildWindow::Sleeps ChildWindow::sleeps() const {
+  Sleeps sleeps;
   for (const auto& thread : std::filesystem::directory_iterator("/proc/" + std::to_string(pid_) + "/task")) {
-    count += numberIn(thread.path() / "status", "voluntary_ctxt_switches");
+    sleeps[thread.path().filename()] = numberIn(thread.path() / "status", "voluntary_ctxt_switches");
   }
-  return count;
+  return sleeps;
 }
 
 }  // namespace brimle::bench

@@ -6,6 +6,9 @@
 
 #include <sys/types.h>
 
+#include <map>
+#include <string>
+
 #include "platform/files.h"
 
 namespace brimle::bench {
@@ -23,8 +26,9 @@ class ChildWindow {
   double secondsToFrame() const { return secondsToFrame_; }
   /// Its proportional memory now.
   double bytes() const;
-  /// How often its threads have gone to sleep so far, which each ends with a wake-up.
-  double sleeps() const;
+  /// How often each of its threads has gone to sleep so far, which a wake-up ends; by the thread's number.
+  using Sleeps = std::map<std::string, double>;
+  Sleeps sleeps() const;
 
  private:
   pid_t pid_ = 0;

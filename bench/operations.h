@@ -27,6 +27,7 @@ struct Operation {
 // Against the bare save: the day file's bytes from one buffer, by write, fdatasync and rename
 // (bench_store.cpp).
 extern const Operation kSave;      ///< one change of one task; its own seconds too
+extern const Operation kTick;      ///< one task ticked
 extern const Operation kAddLines;  ///< 1,000 lines pasted
 extern const Operation kRollover;  ///< a day closed and the next opened, with a backup
 extern const Operation kUndo;      ///< one step back over a sweep
@@ -52,6 +53,6 @@ extern const Operation kTypeSearch;   ///< a key in the archive's search
 
 // The program as a process (bench_program.cpp); no years mean empty lists.
 extern const Operation kStartUp;  ///< to its first frame, and its memory, against the smallest window's
-extern const Operation kIdle;     ///< how often anything wakes it in 20 seconds without a key or click
+extern const Operation kIdle;     ///< how often anything wakes it in a minute without a key or click
 
 }  // namespace brimle::bench

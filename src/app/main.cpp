@@ -81,6 +81,10 @@ int handOver() {
   return 1;
 }
 
+/// What the first frame does not show waits for so long, by which time most machines have painted it. It does
+/// not wait for the frame itself: a window that nobody sees has none.
+constexpr std::chrono::milliseconds kFirstFrame(50);
+
 int run(int argc, char** argv) {
   passOverHangingBus();
   const Folders folders;
@@ -101,7 +105,7 @@ int run(int argc, char** argv) {
   // While the libraries of the desktop are set up. They change the environment, in which the JSON parser
   // looks when it first reads: it does so before them.
   readDayFile("{}");
-  auto stored = std::async([&] { return readStoredDay(files, dataFolder); });
+  auto stored = std::async(std::launch::async, [&] { return readStoredDay(files, dataFolder); });
 
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
   QApplication application(argc, argv);
@@ -109,8 +113,6 @@ int run(int argc, char** argv) {
   MainWindow::Foundation foundation(ui);
   QApplication::setDesktopFileName(QLatin1String(kApplicationId));
   QApplication::setQuitOnLastWindowClosed(false);
-
-  QApplication::setWindowIcon(QIcon(QStringLiteral(":/qt/qml/Brimle/org.brimle.Brimle.svg")));
 
   const BuildSettings build = buildSettings();
   QApplication::setApplicationName(QStringLiteral("Brimle"));
@@ -183,6 +185,10 @@ int run(int argc, char** argv) {
   tellHotKey();
   delegate = &app;
   QTimer::singleShot(0, &application, [&] { app.finishedLaunching(); });
+  QTimer::singleShot(kFirstFrame, &application, [&] {
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/qt/qml/Brimle/org.brimle.Brimle.svg")));
+    app.joinDesktop();
+  });
   return QApplication::exec();
 }
 

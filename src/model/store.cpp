@@ -47,8 +47,7 @@ void Store::loadStarterTasks() {
 }
 
 const TodoItem* Store::find(const Uuid& id) const {
-  const auto found =
-      std::find_if(items().begin(), items().end(), [&](const auto& task) { return task.id == id; });
+  const auto found = std::ranges::find(items(), id, &TodoItem::id);
   return found == items().end() ? nullptr : &*found;
 }
 

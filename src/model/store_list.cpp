@@ -11,10 +11,6 @@ namespace {
 
 using Tasks = std::vector<TodoItem>;
 
-Tasks::iterator locate(Tasks& tasks, const Uuid& id) {
-  return std::find_if(tasks.begin(), tasks.end(), [&](const TodoItem& task) { return task.id == id; });
-}
-
 std::size_t indexIn(const Tasks& tasks, Tasks::const_iterator task) {
   return static_cast<std::size_t>(task - tasks.begin());
 }
@@ -78,7 +74,7 @@ void Store::tomorrowMany(const Ids& ids) {
 
 void Store::togglePinTop(const Uuid& id) {
   Tasks list = items();
-  const auto found = locate(list, id);
+  const auto found = std::ranges::find(list, id, &TodoItem::id);
   if (found == list.end()) return;
   TodoItem task = std::move(*found);
   list.erase(found);
@@ -92,8 +88,8 @@ void Store::togglePinTop(const Uuid& id) {
 
 void Store::moveItem(const Uuid& id, const Uuid& target) {
   Tasks list = items();
-  const auto from = locate(list, id);
-  const auto to = locate(list, target);
+  const auto from = std::ranges::find(list, id, &TodoItem::id);
+  const auto to = std::ranges::find(list, target, &TodoItem::id);
   if (from == list.end() || to == list.end() || from == to) return;
   moveElement(list, indexIn(list, from), indexIn(list, to));
   setItems(std::move(list));
@@ -101,7 +97,7 @@ void Store::moveItem(const Uuid& id, const Uuid& target) {
 
 void Store::moveToEnd(const Uuid& id) {
   Tasks list = items();
-  const auto from = locate(list, id);
+  const auto from = std::ranges::find(list, id, &TodoItem::id);
   if (from == list.end()) return;
   moveElement(list, indexIn(list, from), list.size() - 1);
   setItems(std::move(list));
@@ -124,7 +120,7 @@ void Store::moveBy(const Uuid& id, int offset) {
 
 void Store::replace(const Uuid& id, TodoItem task) {
   Tasks list = items();
-  const auto found = locate(list, id);
+  const auto found = std::ranges::find(list, id, &TodoItem::id);
   if (found == list.end()) return;
   task.id = id;
   *found = std::move(task);

@@ -12,11 +12,6 @@ namespace {
 
 using Scheduled = std::vector<ScheduledItem>;
 
-Scheduled::iterator locate(Scheduled& scheduled, const Uuid& id) {
-  return std::find_if(scheduled.begin(), scheduled.end(),
-                      [&](const ScheduledItem& entry) { return entry.id == id; });
-}
-
 }  // namespace
 
 void Store::sendToDay(TodoItem task, const std::string& day) {
@@ -40,7 +35,7 @@ void Store::removeScheduled(const Uuid& id) {
 
 void Store::editScheduled(const Uuid& id, std::string_view text) {
   Scheduled list = scheduled();
-  const auto entry = locate(list, id);
+  const auto entry = std::ranges::find(list, id, &ScheduledItem::id);
   if (entry == list.end()) return;
   const std::string valid = toValidUtf8(text);
   std::string_view rest = valid;
@@ -60,7 +55,7 @@ void Store::editScheduled(const Uuid& id, std::string_view text) {
 
 std::optional<std::size_t> Store::addScheduledNote(const Uuid& id) {
   Scheduled list = scheduled();
-  const auto entry = locate(list, id);
+  const auto entry = std::ranges::find(list, id, &ScheduledItem::id);
   if (entry == list.end() || entry->item.notes.size() >= kMostNotes) return std::nullopt;
   const std::size_t index = entry->item.notes.size();
   entry->item.notes.emplace_back();
@@ -70,7 +65,7 @@ std::optional<std::size_t> Store::addScheduledNote(const Uuid& id) {
 
 void Store::editScheduledNote(const Uuid& id, std::ptrdiff_t index, std::string_view text) {
   Scheduled list = scheduled();
-  const auto entry = locate(list, id);
+  const auto entry = std::ranges::find(list, id, &ScheduledItem::id);
   if (entry == list.end()) return;
   auto& notes = entry->item.notes;
   if (index < 0 || index >= std::ssize(notes)) return;
@@ -85,7 +80,7 @@ void Store::editScheduledNote(const Uuid& id, std::ptrdiff_t index, std::string_
 
 void Store::bringForward(const Uuid& id) {
   Scheduled waiting = scheduled();
-  const auto entry = locate(waiting, id);
+  const auto entry = std::ranges::find(waiting, id, &ScheduledItem::id);
   if (entry == waiting.end()) return;
   TodoItem task = std::move(entry->item);
   task.done = false;

@@ -53,8 +53,7 @@ std::vector<MenuEntry> ArchiveView::menu(const TimelineRow& row) {
 
 const ScheduledItem* ArchiveView::find(const Uuid& id) const {
   const auto& scheduled = store_.scheduled();
-  const auto found =
-      std::find_if(scheduled.begin(), scheduled.end(), [&](const auto& entry) { return entry.id == id; });
+  const auto found = std::ranges::find(scheduled, id, &ScheduledItem::id);
   return found == scheduled.end() ? nullptr : &*found;
 }
 

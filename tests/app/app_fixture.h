@@ -73,6 +73,7 @@ class AppTest : public testing::Test {
                                    status, hotKey, loginItem, updates, card, links},
                 *store, *ui, todayFocusAdd, "help@brimle.invalid");
     app->finishedLaunching();
+    app->joinDesktop();
     time.runUntilIdle();
   }
 

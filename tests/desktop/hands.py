@@ -52,13 +52,13 @@ def scrollUp(point, turns=15):
     _xdotool("mousemove", *point, "click", "--repeat", turns, 4)
 
 
-def takeHold(point):
-    """The left button goes down, and stays."""
-    _xdotool("mousemove", *point, "mousedown", 1)
+def takeHold(point, button=1):
+    """The button goes down, and stays."""
+    _xdotool("mousemove", *point, "mousedown", button)
 
 
-def letGo():
-    _xdotool("mouseup", 1)
+def letGo(button=1):
+    _xdotool("mouseup", button)
 
 
 def glide(start, end):

@@ -67,6 +67,17 @@ class Dragging(DesktopCase):
         self.takeHold(self.row("tea").point())
         self.dragOver("milk", today=["tea", "milk", "bread", "eggs"])
 
+    def testOnlyTheLeftButtonDrags(self):
+        self.start("milk", "bread", "tea")
+        self.select("tea")
+        for button in 2, 3:
+            place = self.row("tea").point()
+            hands.takeHold(place, button)
+            hands.glide(place, self.row("milk").point())
+            hands.letGo(button)
+        self.takeHold(self.row("tea").point())
+        self.dragOver("bread", today=["milk", "tea", "bread"])
+
     def testTheListScrollsUnderADragAtItsEdge(self):
         tasks = [f"task {number}" for number in range(20)]
         self.start(*tasks)

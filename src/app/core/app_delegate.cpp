@@ -26,11 +26,14 @@ void AppDelegate::finishedLaunching() {
   seenCompact_ = ui_.compact();
   seenPaperTone_ = ui_.paperTone();
   cancellables_.push_back(ui_.observe([this] { settingsChanged(); }));
-  ports_.hotKey.install([this](const std::string& token) { focusQuickAdd(token); });
-  installStatusItem();
   cancellables_.push_back(ports_.time.onWake([this] { store_.rolloverIfNeeded(); }));
   applyAppearance();
   menuWillOpen();
+}
+
+void AppDelegate::joinDesktop() {
+  ports_.hotKey.install([this](const std::string& token) { focusQuickAdd(token); });
+  installStatusItem();
 }
 
 /// Reacts on the main queue: whoever assigns a setting finishes first, and a size chosen for a folded window

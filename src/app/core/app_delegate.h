@@ -60,6 +60,8 @@ class AppDelegate {
   // Calls of the desktop. A token is what it gave whoever asked for the program to come forward, or empty.
   /// Once, when the event loop runs.
   void finishedLaunching();
+  /// Once, a moment after that: the hot key and the status item, which the first frame need not wait for.
+  void joinDesktop();
   /// The program came in front of others.
   void becameActive();
   /// The program was launched again, or one of its notifications was clicked.

@@ -15,13 +15,17 @@ MouseArea {
     /// Gives the index of the note at a place of the row, below 0 where there is none.
     required property var noteAt
 
+    /// By the left button alone.
+    property bool draggable: false
+
     acceptedButtons: Qt.AllButtons
     preventStealing: true
-    drag.target: ghost.item as Item
+    drag.target: draggable ? ghost.item as Item : null
     drag.threshold: 8
 
     onPressed: (mouse) => {
-        if (mouse.button === Qt.LeftButton) ghost.active = true
+        draggable = mouse.button === Qt.LeftButton
+        if (draggable) ghost.active = true
         else mouse.accepted = mouse.button === Qt.RightButton
     }
     onClicked: (mouse) => {

@@ -22,7 +22,10 @@ Item {
     required property bool editing
     required property int noteEditing
 
-    implicitHeight: content.height + 10
+    /// Above and below its content; beside it the list has its inset.
+    readonly property real padding: 5
+
+    implicitHeight: content.height + 2 * padding
 
     Accessible.role: Accessible.ListItem
     Accessible.name: [taskText].concat(states()).join(", ")
@@ -71,7 +74,7 @@ Item {
         }
 
         x: Theme.listInset
-        y: 5
+        y: row.padding
         width: row.width - 2 * Theme.listInset
         spacing: 2
         opacity: 1 - slide
