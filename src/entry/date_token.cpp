@@ -116,7 +116,7 @@ std::optional<Day> laterDay(const DateParts& parts, Day today) {
 std::optional<Day> parseDateToken(std::string_view token, const EntryContext& context) {
   token = trimmed(token);
   if (const auto day = parseDay(token)) return ifLater(day, context.today);
-  // The first form that reads the token decides, even where it then names no day.
+  // From here on the first form that reads the token decides, even where it then names no day.
   auto parts = readNumbers(token, context.region);
   if (!parts) parts = readNames(token, context);
   return parts ? laterDay(*parts, context.today) : std::nullopt;
