@@ -1,6 +1,7 @@
 #include "sample_data.h"
 
 #include <chrono>
+#include <cstdint>
 #include <map>
 #include <random>
 #include <span>

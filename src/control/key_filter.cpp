@@ -1,6 +1,7 @@
 #include "control/key_filter.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <utility>
 
 #include "base/limits.h"

@@ -3,6 +3,7 @@
 #include <unicode/dtfmtsym.h>
 #include <unicode/locid.h>
 
+#include <cstdint>
 #include <functional>
 #include <map>
 

@@ -1,6 +1,7 @@
 #include "views/archive_timeline.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <numeric>
 #include <string>
 #include <unordered_map>

@@ -2,6 +2,7 @@
 
 #include <unicode/unistr.h>
 
+#include <cstdint>
 #include <string>
 
 #include "entry/date_token.h"

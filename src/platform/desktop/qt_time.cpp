@@ -5,6 +5,7 @@
 
 #include <QSocketNotifier>
 #include <QTimer>
+#include <cstdint>
 #include <ctime>
 
 #include "platform/civil.h"

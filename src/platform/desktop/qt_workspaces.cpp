@@ -1,5 +1,6 @@
 #include "platform/desktop/qt_workspaces.h"
 
+#include <cstdint>
 #include <string_view>
 
 #include "platform/desktop/qt_xcb.h"
