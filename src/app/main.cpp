@@ -81,6 +81,12 @@ int handOver() {
   return 1;
 }
 
+/// The JSON parser looks into the environment when it first reads. The libraries of the desktop change it, so
+/// it is to have looked before it reads on a thread beside theirs.
+void letParserReadEnvironment() {
+  readDayFile("{}");
+}
+
 /// What the first frame does not show waits for so long, by which time most machines have painted it. It does
 /// not wait for the frame itself: a window that nobody sees has none.
 constexpr std::chrono::milliseconds kFirstFrame(50);
@@ -102,9 +108,8 @@ int run(int argc, char** argv) {
     return handOver();
   }
 
-  // While the libraries of the desktop are set up. They change the environment, in which the JSON parser
-  // looks when it first reads: it does so before them.
-  readDayFile("{}");
+  letParserReadEnvironment();
+  // While the libraries of the desktop are set up.
   auto stored = std::async(std::launch::async, [&] { return readStoredDay(files, dataFolder); });
 
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
