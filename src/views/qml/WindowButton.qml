@@ -29,7 +29,6 @@ Rectangle {
     Hint {
         target: button
         text: button.label
-        alone: true
     }
     FocusRing {
         target: button

@@ -11,9 +11,13 @@ Row {
 
     spacing: 6
 
-    HoverHandler { id: hover }
+    HoverHandler {
+        id: hover
+        blocking: true // the header's tooltip lies beneath them in a folded window
+    }
 
     WindowButton {
+        objectName: "close"
         symbol: "close"
         label: Texts.of["Close"]
         glyphShown: hover.hovered
