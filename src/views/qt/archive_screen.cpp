@@ -30,6 +30,7 @@ ArchiveScreen::ArchiveScreen(Store& store, SelectionModel& sel, UIState& ui, Arc
     const bool spoken = std::exchange(language_, ui_.language()) != ui_.language();
     if (shown_ && (turned || searched)) refresh();
     if (shown_ && spoken) rows_.touch();
+    if (turned) emit showingChanged();
     emit changed();
   }));
 }

@@ -17,7 +17,7 @@ class ArchiveScreen : public brimle::RowScreen {
   QML_ELEMENT
   QML_UNCREATABLE("made by the program")
   Q_PROPERTY(QAbstractItemModel* rows READ rows CONSTANT)
-  Q_PROPERTY(bool showing READ showing WRITE setShowing NOTIFY changed)
+  Q_PROPERTY(bool showing READ showing WRITE setShowing NOTIFY showingChanged)
   Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY changed)
   Q_PROPERTY(int boundary READ boundary NOTIFY rowsChanged)
 
@@ -58,6 +58,7 @@ class ArchiveScreen : public brimle::RowScreen {
   Q_INVOKABLE int nextScheduled(int row, int step) const { return rows_.nextScheduled(row, step); }
 
  signals:
+  void showingChanged();
   void changed();
   void rowsChanged();
 
