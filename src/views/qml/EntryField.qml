@@ -48,6 +48,8 @@ Rectangle {
             verticalAlignment: TextEdit.AlignVCenter
             focus: true
             activeFocusOnTab: true
+            /// Up and Down are of no use within it, and lead to the rows.
+            readonly property bool leadsToRows: text === ""
             textFormat: TextEdit.PlainText
             wrapMode: TextEdit.Wrap
             selectByMouse: true
@@ -109,5 +111,6 @@ Rectangle {
     Connections {
         target: field.today
         function onFocusAdd() { edit.forceActiveFocus() }
+        function onTypingBegan() { edit.forceActiveFocus() }
     }
 }

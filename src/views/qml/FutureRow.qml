@@ -35,6 +35,11 @@ Item {
 
     FocusRing { target: row }
 
+    MenuOutline {
+        anchors { fill: parent; leftMargin: -6; rightMargin: -6 }
+        visible: row.archive.menuRow === row.key
+    }
+
     MouseArea {
         anchors.fill: parent
         acceptedButtons: Qt.RightButton

@@ -28,6 +28,11 @@ Item {
         color: Theme.selection
     }
 
+    MenuOutline {
+        anchors { fill: parent; leftMargin: -6; rightMargin: -6 }
+        visible: row.archive.menuRow === row.key
+    }
+
     MouseArea {
         anchors.fill: parent
         acceptedButtons: Qt.LeftButton | Qt.RightButton

@@ -25,6 +25,8 @@ Rectangle {
     TextInput {
         id: input
         activeFocusOnTab: true
+        /// Up and Down are of no use within it, and lead to the rows.
+        readonly property bool leadsToRows: true
         anchors { left: glass.right; leftMargin: 9; right: parent.right; rightMargin: 10; verticalCenter: parent.verticalCenter }
         clip: true
         selectByMouse: true
@@ -49,6 +51,11 @@ Rectangle {
     }
 
     TextMenu { field: input }
+
+    Connections {
+        target: box.archive
+        function onTypingBegan() { input.forceActiveFocus() }
+    }
 
     TapHandler { onTapped: input.forceActiveFocus() }
 }

@@ -62,6 +62,12 @@ Item {
 
     Ground { color: row.highlighted && !row.done ? Theme.highlight : "transparent" }
     Ground { color: row.selected && !row.editing ? Theme.selection : "transparent" }
+    MenuOutline {
+        x: content.x - 6
+        width: content.width + 12
+        height: row.height
+        visible: row.today.menuRow === row.taskId
+    }
 
     Column {
         id: content

@@ -68,7 +68,7 @@ void ArchiveScreen::select(const QString& key, int modifiers) {
 void ArchiveScreen::openMenu(const QString& key, const QPointF& place) {
   const auto id = Uuid::parse(fromQt(key));
   const TimelineRow* row = id ? rows_.find(*id) : nullptr;
-  if (row) popUpMenu(view_.menu(*row), place.toPoint());
+  if (row) openRowMenu(key, view_.menu(*row), place);
 }
 
 /// Only one thing at a time is what keys act on.

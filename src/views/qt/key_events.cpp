@@ -83,6 +83,12 @@ KeyPress keyPressOf(const QKeyEvent& event) {
   return press;
 }
 
+bool isTyping(const QKeyEvent& event) {
+  const QString text = event.text().trimmed();
+  return !text.isEmpty() && text.front().category() != QChar::Other_Control &&
+         !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+}
+
 std::optional<AltTap::Input> altInputOf(const QEvent& event) {
   switch (event.type()) {
     case QEvent::MouseButtonPress:

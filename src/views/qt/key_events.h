@@ -17,6 +17,9 @@ Modifiers modifiersOf(Qt::KeyboardModifiers modifiers);
 /// one. Digits always count by where they are, for some keyboards type them with Shift only.
 KeyPress keyPressOf(const QKeyEvent& event);
 
+/// Whether the press would type something that can be seen.
+bool isTyping(const QKeyEvent& event);
+
 /// What an event of the window means to a tap of Alt; nothing where it leaves the tap as it is.
 std::optional<AltTap::Input> altInputOf(const QEvent& event);
 

@@ -204,14 +204,17 @@ void MainWindow::leaveEditor(const QMouseEvent& press) {
   const QQuickItem* field = window_->activeFocusItem();
   if (!field || !field->inherits("QQuickTextInput")) return;
   if (!field->contains(field->mapFromScene(press.position()))) {
-    archive_.showing() ? emit archive_.releaseKeyboard() : emit today_.releaseKeyboard();
+    emit rows().releaseKeyboard();
   }
 }
 
 bool MainWindow::handleKey(const QKeyEvent& event) {
   emit theme_->acted();
   const KeyPress key = keyPressOf(event);
-  return filterKey(key) || (reports_.key && reports_.key(key)) || handleFocusKey(event);
+  if (filterKey(key) || (reports_.key && reports_.key(key)) || handleFocusKey(event)) return true;
+  const KeyboardPlace place = keyboardPlace();
+  if (isTyping(event) && place.mainWindowIsKey && !place.inTextField) emit rows().typingBegan();
+  return false;
 }
 
 /// A key that the rows use may move the selection out of sight: the list follows it.
@@ -231,6 +234,8 @@ bool MainWindow::handleFocusKey(const QKeyEvent& event) {
     case Qt::Key_Menu: return askForMenu();
     case Qt::Key_F10: return plain && (shift ? askForMenu() : openMenuByKey());
     case Qt::Key_F6: return plain && (moveFocus(!shift), true);
+    case Qt::Key_Up:
+    case Qt::Key_Down: return leadToRows(keyPressOf(event));
     case Qt::Key_Tab:
     case Qt::Key_Backtab:
       if (event.modifiers().testFlag(Qt::ControlModifier)) return moveFocus(event.key() == Qt::Key_Tab), true;
@@ -238,6 +243,16 @@ bool MainWindow::handleFocusKey(const QKeyEvent& event) {
       return false;
     default: return false;
   }
+}
+
+/// An arrow that the field beneath the rows has no use for is the rows' key, where there are any.
+bool MainWindow::leadToRows(const KeyPress& key) {
+  QQuickItem* field = window_->activeFocusItem();
+  if (!field || !field->property("leadsToRows").toBool()) return false;
+  emit rows().releaseKeyboard();
+  if (filterKey(key)) return true;
+  field->forceActiveFocus();
+  return false;
 }
 
 /// A control that has the keyboard keeps the keys that work it.
@@ -250,7 +265,7 @@ bool MainWindow::focusedControlTakes(const KeyPress& key) const {
 bool MainWindow::askForMenu() {
   if (keyboardPlace().inTextField) return false;
   theme_->setFocusShown(true);
-  return archive_.showing() ? archive_.askForMenu() : today_.askForMenu();
+  return rows().askForMenu();
 }
 
 bool MainWindow::openMenuByKey() {
@@ -272,6 +287,11 @@ void MainWindow::moveFocus(bool forward) {
   theme_->setFocusShown(true);
   item->nextItemInFocusChain(forward)->forceActiveFocus(forward ? Qt::TabFocusReason
                                                                 : Qt::BacktabFocusReason);
+}
+
+RowScreen& MainWindow::rows() {
+  if (archive_.showing()) return archive_;
+  return today_;
 }
 
 KeyboardPlace MainWindow::keyboardPlace() const {

@@ -73,6 +73,7 @@ class MainWindow : public QObject, public AppWindow {
   bool handleKey(const QKeyEvent& event);
   bool handleFocusKey(const QKeyEvent& event);
   bool filterKey(const KeyPress& key);
+  bool leadToRows(const KeyPress& key);
   bool askForMenu();
   void openMenu();
   bool openMenuByKey();
@@ -81,6 +82,7 @@ class MainWindow : public QObject, public AppWindow {
   void leaveEditor(const QMouseEvent& press);
   bool actOnRows(EditCommand command);
   bool pasteTooLong(const std::string& text);
+  RowScreen& rows();
   KeyboardPlace keyboardPlace() const;
 
   Store& store_;

@@ -73,8 +73,8 @@ void fill(QMenu* menu, const std::vector<MenuEntry>& items) {
 
 }  // namespace
 
-void popUpMenu(const std::vector<MenuEntry>& items, QPoint place) {
-  if (items.empty()) return;
+QMenu* popUpMenu(const std::vector<MenuEntry>& items, QPoint place) {
+  if (items.empty()) return nullptr;
   auto* menu = new QMenu;
   menu->setAttribute(Qt::WA_DeleteOnClose);
   auto* style = new MenuStyle;
@@ -82,11 +82,12 @@ void popUpMenu(const std::vector<MenuEntry>& items, QPoint place) {
   menu->setStyle(style);
   fill(menu, items);
   menu->popup(place);
-  if (!Theme::create(nullptr, nullptr)->focusShown()) return;
+  if (!Theme::create(nullptr, nullptr)->focusShown()) return menu;
   // Whoever steers by keyboard starts on the first item. By its key, for the call would open the submenu,
   // too.
   QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
   QCoreApplication::sendEvent(menu, &down);
+  return menu;
 }
 
 }  // namespace brimle

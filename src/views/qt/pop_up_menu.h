@@ -6,10 +6,12 @@
 
 #include "platform/menu.h"
 
+class QMenu;
+
 namespace brimle {
 
-/// Shows the menu at a place on the screen; nothing where it has no items. An action runs when its item is
-/// chosen. The keys beside the items are only shown.
-void popUpMenu(const std::vector<MenuEntry>& items, QPoint place);
+/// Shows the menu at a place on the screen and gives it back, deleted when it closes; nothing where it has no
+/// items. An action runs when its item is chosen. The keys beside the items are only shown.
+QMenu* popUpMenu(const std::vector<MenuEntry>& items, QPoint place);
 
 }  // namespace brimle

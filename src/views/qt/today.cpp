@@ -89,7 +89,7 @@ void Today::openLink(const QString& address) {
 }
 
 void Today::openMenu(const QString& taskId, const QPointF& place) {
-  withId(taskId, [&](const Uuid& id) { popUpMenu(rows_.menu(id), place.toPoint()); });
+  withId(taskId, [&](const Uuid& id) { openRowMenu(taskId, rows_.menu(id), place); });
 }
 
 void Today::beginEdit(const QString& taskId) {
