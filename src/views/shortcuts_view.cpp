@@ -10,6 +10,7 @@ namespace {
 struct RowText {
   std::string_view keys;
   std::string_view description;
+  std::string_view names = {};  ///< what a keyboard of this desktop calls the keys, if they are any
 };
 
 /// Stands in the keys column for what is not the same everywhere.
@@ -19,20 +20,29 @@ constexpr std::string_view kSpace = "Space";
 constexpr std::string_view kHotKey = "⌥⌘T";
 
 constexpr RowText kAdding[] = {
-    {"⏎", "Add a task"},
-    {"⇧⏎", "New line"},
-    {"⌥⏎", "Move to tomorrow"},
+    {"⏎", "Add a task", "Return"},
+    {"⇧⏎", "New line", "Shift+Return"},
+    {"⌥⏎", "Move to tomorrow", "Alt+Return"},
     {kHotKey, "Quick add from anywhere"},
 };
 constexpr RowText kMarkers[] = {
-    {"// …", "Add note"},         {"// … // …", "Another note"},
-    {"⇥ …", "Indent for a note"}, {kDateExample, "Send to a day"},
-    {"!", "Pin to top"},          {"*", "Every day"},
+    {"// …", "Add note"},
+    {"// … // …", "Another note"},
+    {"⇥ …", "Indent for a note", "Tab"},
+    {kDateExample, "Send to a day"},
+    {"!", "Pin to top"},
+    {"*", "Every day"},
     {"*w", "Weekdays only"},
 };
 constexpr RowText kWorking[] = {
-    {kSpace, "Tick"}, {"⏎", "Edit"},  {"⇥ / ↓", "Walk the notes"}, {"⌘↑ ⌘↓", "Move task"},
-    {"⌫", "Delete"},  {"⌘Z", "Undo"}, {"⇧⌘C", "Copy Day as Text"}, {"⇧⌘V", "Paste Clipboard as Tasks"},
+    {kSpace, "Tick"},
+    {"⏎", "Edit", "Return"},
+    {"⇥ / ↓", "Walk the notes", "Tab, Down"},
+    {"⌘↑ ⌘↓", "Move task", "Ctrl+Up, Ctrl+Down"},
+    {"⌫", "Delete", "Backspace, Del"},
+    {"⌘Z", "Undo", "Ctrl+Z"},
+    {"⇧⌘C", "Copy Day as Text", "Ctrl+Shift+C"},
+    {"⇧⌘V", "Paste Clipboard as Tasks", "Ctrl+Shift+V"},
 };
 
 struct SectionText {
@@ -58,8 +68,8 @@ std::vector<ShortcutsSection> shortcutsCard(const Region& region, std::string_vi
     auto& shown = card.emplace_back();
     shown.title = I18n::t(section.title);
     for (const RowText& row : section.rows) {
-      shown.rows.push_back(
-          {keysOf(row, region), I18n::t(row.description), std::string(row.keys == kHotKey ? hotKey : "")});
+      shown.rows.push_back({keysOf(row, region), I18n::t(row.description),
+                            std::string(row.keys == kHotKey ? hotKey : row.names)});
     }
   }
   return card;

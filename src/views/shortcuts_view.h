@@ -14,7 +14,8 @@ struct ShortcutsSection {
   struct Row {
     std::string keys;
     std::string description;
-    std::string hint;  ///< the key in force here, where it may be another; else empty
+    /// The keys by their English names, as "Ctrl+Up, Ctrl+Down"; empty for what is typed, or has no key here.
+    std::string names;
   };
 
   std::string title;

@@ -1,6 +1,7 @@
 #include "views/qt/shortcuts_card.h"
 
 #include <QGuiApplication>
+#include <QKeySequence>
 #include <QQmlComponent>
 #include <QScreen>
 #include <utility>
@@ -10,6 +11,15 @@
 #include "views/shortcuts_view.h"
 
 namespace brimle {
+namespace {
+
+/// As the menus write them. A name that the desktop gave, which may be a sentence, stays as it is.
+QString nameOfKeys(const std::string& names) {
+  const QKeySequence keys = QKeySequence::fromString(toQt(names));
+  return keys.toString() == toQt(names) ? keys.toString(QKeySequence::NativeText) : toQt(names);
+}
+
+}  // namespace
 
 ShortcutsCard::ShortcutsCard(QQmlEngine& engine, UIState& ui, Region region)
     : engine_(engine), region_(std::move(region)), settings_(ui.observe([this] { emit changed(); })) {}
@@ -21,7 +31,7 @@ QVariantList ShortcutsCard::sections() const {
     for (const auto& row : section.rows) {
       rows.append(QVariantMap{{QStringLiteral("keys"), toQt(row.keys)},
                               {QStringLiteral("description"), toQt(row.description)},
-                              {QStringLiteral("hint"), toQt(row.hint)}});
+                              {QStringLiteral("hint"), nameOfKeys(row.names)}});
     }
     sections.append(
         QVariantMap{{QStringLiteral("title"), toQt(section.title)}, {QStringLiteral("rows"), rows}});
