@@ -87,6 +87,37 @@ void letParserReadEnvironment() {
   readDayFile("{}");
 }
 
+/// What the window tells, and who is told.
+MainWindow::Reports reportsTo(AppDelegate& app, QtGlobalMenu& globalMenu, const QtInstance& instance) {
+  return {.key = [&](const KeyPress& key) { return app.performKeyEquivalent(key); },
+          .frameChanged = [&] { app.windowFrameChanged(); },
+          .shown =
+              [&](QWindow& shown) {
+                showOnAllWorkspaces(shown);
+                globalMenu.setWindow(shown);
+              },
+          // A window that nobody can ask for again must not be closed into nowhere.
+          .closed =
+              [&] {
+                if (!instance.isReachable()) QCoreApplication::quit();
+              }};
+}
+
+/// Tells the delegate what happens to the program and to its screens.
+void watchApplication(QApplication& application, AppDelegate& app) {
+  QObject::connect(&application, &QApplication::applicationStateChanged, &application, [&](auto state) {
+    if (state == Qt::ApplicationActive) app.becameActive();
+  });
+  const auto screensChanged = [&] { QTimer::singleShot(0, &application, [&] { app.screensChanged(); }); };
+  const auto watchScreen = [&application, screensChanged](QScreen* screen) {
+    QObject::connect(screen, &QScreen::availableGeometryChanged, &application, screensChanged);
+  };
+  std::ranges::for_each(QApplication::screens(), watchScreen);
+  QObject::connect(&application, &QApplication::screenAdded, &application, watchScreen);
+  QObject::connect(&application, &QApplication::screenRemoved, &application, screensChanged);
+  QObject::connect(&application, &QApplication::aboutToQuit, &application, [&] { app.willTerminate(); });
+}
+
 /// What the first frame does not show waits for so long, by which time most machines have painted it. It does
 /// not wait for the frame itself: a window that nobody sees has none.
 constexpr std::chrono::milliseconds kFirstFrame(50);
@@ -162,29 +193,8 @@ int run(int argc, char** argv) {
                    status, *hotKey, loginItem, updates, window.shortcuts(), links},
                   store, ui, todayFocusAdd, build.supportAddress);
 
-  window.setReports({.key = [&](const KeyPress& key) { return app.performKeyEquivalent(key); },
-                     .frameChanged = [&] { app.windowFrameChanged(); },
-                     .shown =
-                         [&globalMenu](QWindow& shown) {
-                           showOnAllWorkspaces(shown);
-                           globalMenu.setWindow(shown);
-                         },
-                     // A window that nobody can ask for again must not be closed into nowhere.
-                     .closed =
-                         [&instance] {
-                           if (!instance.isReachable()) QCoreApplication::quit();
-                         }});
-  QObject::connect(&application, &QApplication::applicationStateChanged, &application, [&](auto state) {
-    if (state == Qt::ApplicationActive) app.becameActive();
-  });
-  const auto screensChanged = [&] { QTimer::singleShot(0, &application, [&] { app.screensChanged(); }); };
-  const auto watchScreen = [&](QScreen* screen) {
-    QObject::connect(screen, &QScreen::availableGeometryChanged, &application, screensChanged);
-  };
-  std::ranges::for_each(QApplication::screens(), watchScreen);
-  QObject::connect(&application, &QApplication::screenAdded, &application, watchScreen);
-  QObject::connect(&application, &QApplication::screenRemoved, &application, screensChanged);
-  QObject::connect(&application, &QApplication::aboutToQuit, &application, [&] { app.willTerminate(); });
+  window.setReports(reportsTo(app, globalMenu, instance));
+  watchApplication(application, app);
   const auto tellHotKey = [&] { window.shortcuts().setHotKey(hotKey->keyInForce()); };
   const Subscription hotKeyTold = hotKey->observe(tellHotKey);
   tellHotKey();

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/text.h"
+#include "control/row_commands.h"
 #include "i18n/counts.h"
 #include "i18n/dates.h"
 #include "i18n/i18n.h"
@@ -15,8 +16,7 @@ std::string ContentView::dateLine() const {
 
 std::size_t ContentView::clearedTodayCount() const {
   const std::string today = dayKey(time_.today());
-  const auto day = std::find_if(store_.archive().begin(), store_.archive().end(),
-                                [&](const ArchiveDay& one) { return one.date == today; });
+  const auto day = std::ranges::find(store_.archive(), today, &ArchiveDay::date);
   if (day == store_.archive().end()) return 0;
   return static_cast<std::size_t>(std::count_if(day->items.begin(), day->items.end(),
                                                 [](const ArchivedItem& entry) { return entry.completed; }));
@@ -44,8 +44,15 @@ std::string ContentView::tomorrowTooltip() const {
   return lines;
 }
 
-void ContentView::commitDraft(std::string_view draft, bool toTomorrow) {
-  if (!trimmedLines(draft).empty()) store_.addLines(draft, toTomorrow);
+std::optional<std::size_t> ContentView::commitDraft(std::string_view draft, bool toTomorrow) {
+  if (trimmedLines(draft).empty()) return std::nullopt;
+  const RowOrder before = visibleIDs(store_);
+  const IdSet known(before.begin(), before.end());
+  store_.addLines(draft, toTomorrow);
+  const RowOrder now = visibleIDs(store_);
+  const auto added = std::ranges::find_if_not(now, [&](const Uuid& id) { return known.contains(id); });
+  if (added == now.end()) return std::nullopt;
+  return static_cast<std::size_t>(added - now.begin());
 }
 
 }  // namespace brimle

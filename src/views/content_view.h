@@ -2,7 +2,10 @@
 // Reads the store and calls its operations; keeps no task data of its own.
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "model/store.h"
 #include "platform/time.h"
@@ -31,8 +34,9 @@ class ContentView {
   /// The tasks of tomorrow, one a line.
   std::string tomorrowTooltip() const;
 
-  /// Files what the entry field holds; a blank draft is dropped. The field has been cleared before.
-  void commitDraft(std::string_view draft, bool toTomorrow);
+  /// Files what the entry field holds; a blank draft is dropped. The field has been cleared before. The row of
+  /// today's list where the first of its tasks stands now; nothing where none came onto it.
+  std::optional<std::size_t> commitDraft(std::string_view draft, bool toTomorrow);
 
  private:
   Store& store_;

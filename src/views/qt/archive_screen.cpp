@@ -2,7 +2,6 @@
 
 #include "views/qt/convert.h"
 #include "views/qt/key_events.h"
-#include "views/qt/pop_up_menu.h"
 #include "views/scroll_watch.h"
 
 namespace brimle {

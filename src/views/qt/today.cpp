@@ -1,11 +1,7 @@
 #include "views/qt/today.h"
 
-#include <algorithm>
-#include <unordered_set>
-
 #include "views/qt/convert.h"
 #include "views/qt/key_events.h"
-#include "views/qt/pop_up_menu.h"
 
 namespace brimle {
 namespace {
@@ -61,12 +57,8 @@ QString Today::draggingId() const {
 }
 
 void Today::commit(const QString& draft, bool toTomorrow) {
-  const std::vector<Uuid> before = visibleIDs(parts_.store);
-  const std::unordered_set<Uuid> known(before.begin(), before.end());
-  parts_.content.commitDraft(fromQt(draft), toTomorrow);
-  const std::vector<Uuid> now = visibleIDs(parts_.store);
-  const auto added = std::ranges::find_if_not(now, [&](const Uuid& id) { return known.contains(id); });
-  if (added != now.end()) emit rowShown(static_cast<int>(added - now.begin()));
+  const auto row = parts_.content.commitDraft(fromQt(draft), toTomorrow);
+  if (row) emit rowShown(static_cast<int>(*row));
 }
 
 void Today::toggle(const QString& taskId) {
