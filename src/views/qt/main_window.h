@@ -69,6 +69,9 @@ class MainWindow : public QObject, public AppWindow {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  bool actOnRows(EditCommand command);
+
+  // What becomes of events (main_window_events.cpp).
   bool filterEvent(QEvent* event);
   bool handleKey(const QKeyEvent& event);
   bool handleFocusKey(const QKeyEvent& event);
@@ -80,7 +83,6 @@ class MainWindow : public QObject, public AppWindow {
   void moveFocus(bool forward);
   bool focusedControlTakes(const KeyPress& key) const;
   void leaveEditor(const QMouseEvent& press);
-  bool actOnRows(EditCommand command);
   bool pasteTooLong(const std::string& text);
   RowScreen& rows();
   KeyboardPlace keyboardPlace() const;
