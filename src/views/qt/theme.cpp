@@ -162,12 +162,14 @@ QPalette Theme::palette() const {
   for (const auto role :
        {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
     palette.setColor(role, text);
-    palette.setColor(QPalette::Disabled, role, over(tertiary(), paper()));
+    palette.setColor(QPalette::Disabled, role, over(faded(primary(), 0.45), paper()));
   }
-  for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button, QPalette::ToolTipBase}) {
+  for (const auto role : {QPalette::Window, QPalette::Button, QPalette::ToolTipBase}) {
     palette.setColor(role, paper());
   }
-  palette.setColor(QPalette::Highlight, over(faded(primary(), 0.16), paper()));
+  // Menus lie above the paper, and must be told from it where it is dark.
+  palette.setColor(QPalette::Base, over(faded(Qt::white, 0.05), paper()));
+  palette.setColor(QPalette::Highlight, over(faded(primary(), 0.2), paper()));
   palette.setColor(QPalette::HighlightedText, text);
   palette.setColor(QPalette::PlaceholderText, over(placeholder(), paper()));
   palette.setColor(QPalette::Link, pencilRed());
