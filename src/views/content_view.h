@@ -34,8 +34,8 @@ class ContentView {
   /// The tasks of tomorrow, one a line.
   std::string tomorrowTooltip() const;
 
-  /// Files what the entry field holds; a blank draft is dropped. The field has been cleared before. The row of
-  /// today's list where the first of its tasks stands now; nothing where none came onto it.
+  /// Files what the entry field holds; a blank draft is dropped. The field has been cleared before. The row
+  /// of today's list where the first of its tasks stands now; nothing where none came onto it.
   std::optional<std::size_t> commitDraft(std::string_view draft, bool toTomorrow);
 
  private:
