@@ -19,7 +19,7 @@ struct Version {
   static std::optional<Version> parse(std::string_view text);
   std::string string() const;
 
-  auto operator<=>(const Version&) const = default;
+  std::strong_ordering operator<=>(const Version&) const = default;
 };
 
 }  // namespace brimle

@@ -3,7 +3,7 @@
 namespace brimle {
 
 Path locateDataFolder(Files& files, const Path& supportDirectory) {
-  const Path folder = supportDirectory / "Brimle";
+  Path folder = supportDirectory / "Brimle";
   const Path predecessor = supportDirectory / "Quorel";
   if (!files.exists(folder) && files.exists(predecessor)) files.rename(predecessor, folder);
   files.createFolders(folder);
