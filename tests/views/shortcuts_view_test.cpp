@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cctype>
+#include <map>
+
 #include "i18n/i18n.h"
 
 namespace brimle {
@@ -16,13 +19,34 @@ TEST(ShortcutsCard, SpeaksEveryLanguageAndKeepsItsKeysButSpaceAndTheDate) {
     ASSERT_EQ(card.size(), english.size());
     for (std::size_t section = 0; section < card.size(); ++section) {
       for (std::size_t row = 0; row < english[section].rows.size(); ++row) {
-        const auto& [keys, description, hint] = english[section].rows[row];
+        const auto& [keys, description, names] = english[section].rows[row];
         EXPECT_NE(card[section].rows.at(row).description, description) << language;
         EXPECT_EQ(card[section].rows[row].keys, keys == "> 9/22" ? "> 22/9" : I18n::t(keys));
+        EXPECT_EQ(card[section].rows[row].names, names);
       }
     }
   }
   I18n::setLang("en");
+}
+
+TEST(ShortcutsCard, NamesTheKeysThatItDraws) {
+  const std::map<std::string, std::string> drawn = {{"⌘", "Ctrl+"},  {"⌥", "Alt+"}, {"⇧", "Shift+"},
+                                                    {"⏎", "Return"}, {"⇥", "Tab"},  {"⌫", "Backspace"},
+                                                    {"↑", "Up"},     {"↓", "Down"}};
+  for (const auto& section : shortcutsCard(regionOf("en_GB"), "Alt+Ctrl+T")) {
+    for (const auto& [keys, description, names] : section.rows) {
+      bool isKey = false;
+      for (const auto& [glyph, name] : drawn) {
+        if (keys.find(glyph) == keys.npos) continue;
+        isKey = true;
+        EXPECT_NE(names.find(name), names.npos) << keys << ": " << names;
+      }
+      EXPECT_EQ(names.empty(), !isKey) << keys;
+      if (isKey && std::isalpha(static_cast<unsigned char>(keys.back()))) {
+        EXPECT_EQ(names.back(), keys.back()) << keys;
+      }
+    }
+  }
 }
 
 }  // namespace

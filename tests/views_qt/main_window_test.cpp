@@ -247,6 +247,35 @@ TEST_F(MainWindowTest, ShowsWhereTheKeyboardIsAsItWalksBackFromTheEntryField) {
   EXPECT_EQ(after("Esc C Return"), "A+ B+ c' []") << "Escape gives the entry field the keyboard";
 }
 
+TEST_F(MainWindowTest, LeadsWhatIsTypedToTheFieldAndArrowsThatAreOfNoUseThereToTheRows) {
+  EXPECT_EQ(after("Backtab Ctrl+B Alt+B Left Del C"), "A B [c]");
+  EXPECT_EQ(after("Up Backspace"), "A B []");
+  EXPECT_EQ(names(QAccessible::ListItem, 2), "A B ");
+  EXPECT_EQ(after("Up Space"), "A B+ []");
+  time.advance(Seconds(1.5));
+  ui->setShowingArchive(true);
+  EXPECT_EQ(after("B"), "A |  |  | 15:B+ [b]");
+  EXPECT_EQ(names(QAccessible::ListItem, 1), "B, ticked ");
+  after("Down");
+  EXPECT_EQ(names(QAccessible::ListItem, 1), "B, ticked, selected ");
+  EXPECT_EQ(after("Esc X Down D"), "A |  |  | 15:B+ [bxd]") << "there is no row to go to";
+}
+
+TEST_F(MainWindowTest, TellsWhoseMenuIsOpenAndWhatItsButtonsDo) {
+  const auto row = [this] {
+    return window->property("today").value<QObject*>()->property("menuRow").toString().toStdString();
+  };
+  after("Up Shift+F10");
+  EXPECT_EQ(row(), idOf("B").string());
+  QApplication::activePopupWidget()->close();
+  EXPECT_EQ(row(), "");
+  const auto buttons = items(QAccessible::Button, 2, {"Close", "Minimise"});
+  for (const bool over : {false, true}) {
+    QTest::mouseMove(window, over ? buttons[0]->mapToScene({6, 6}).toPoint() : QPoint(150, 200));
+    for (const auto* button : buttons) EXPECT_EQ(button->property("glyphShown"), over) << nameOf(button);
+  }
+}
+
 TEST_F(MainWindowTest, OpensItsMenuByABareTapOfAltOnly) {
   const auto press = QEvent::KeyPress, release = QEvent::KeyRelease;
   struct Case {
