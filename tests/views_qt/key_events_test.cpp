@@ -44,5 +44,25 @@ TEST(KeyEvents, AreReducedToKeysWithCommandsAndToWhatTheyType) {
   }
 }
 
+TEST(KeyEvents, TypeWhatCanBeSeenUnlessACommandIsHeld) {
+  const std::tuple<QString, Qt::KeyboardModifiers, bool> rows[] = {{"a", {}, true},
+                                                                   {"É", Qt::ShiftModifier, true},
+                                                                   {"😀", {}, true},
+                                                                   {"1", Qt::KeypadModifier, true},
+                                                                   {"@", Qt::GroupSwitchModifier, true},
+                                                                   {"a", Qt::ControlModifier, false},
+                                                                   {"a", Qt::AltModifier, false},
+                                                                   {"a", Qt::MetaModifier, false},
+                                                                   {" ", {}, false},
+                                                                   {"\t", {}, false},
+                                                                   {"\r", {}, false},
+                                                                   {"\b", {}, false},
+                                                                   {"\x7F", {}, false},
+                                                                   {"", {}, false}};
+  for (const auto& [text, held, types] : rows) {
+    EXPECT_EQ(isTyping({QEvent::KeyPress, 0, held, text}), types) << text.toStdString();
+  }
+}
+
 }  // namespace
 }  // namespace brimle
