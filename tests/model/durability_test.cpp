@@ -100,6 +100,8 @@ class Durability : public StoreTest {
     EXPECT_EQ(sound.list("/proc/self/fd")->size(), descriptors);
     const bool harmless = failed.empty() || (fault.error == EINTR && failed != "rename");
     EXPECT_THAT(onDisk(), AnyOf(after.first, harmless ? after.first : before));
+    const Path temporaryFile = file.parent_path() / ("." + file.filename().string() + ".tmp");
+    EXPECT_FALSE(!fault.lasting && failed != "unlink" && sound.exists(temporaryFile));
     const bool loaded = state() == after.second;
     EXPECT_TRUE(loaded || (startsUnderFault() && !harmless)) << state();
     expectNextChangeSaved(!loaded);

@@ -23,16 +23,18 @@ TEST_F(StoreLoad, StartsWithFourTasksInTheLanguageAndWritesNothingBeforeTheFirst
 TEST_F(StoreLoad, KeepsTheBytesOfAFileItCannotRead) {
   const std::string good = document("A");
   for (const std::string& bytes : {std::string(), good.substr(0, 40), good + '\0', std::string("\xFF\xFE")}) {
-    files = MemoryFiles();
-    files.put(kBackups / "today-2026-06-15.json", good);
-    files.put(kFile, bytes);
-    reopen();
-    reopen();
-    EXPECT_TRUE(files.read(kFile) == bytes && isBackedUp(bytes) && isBackedUp(good));
-    EXPECT_EQ(files.list(kBackups)->size(), 2u) << "the same bytes are kept once";
-    run("add a; reopen");
-    EXPECT_EQ(store->items().size(), 5u);
-    EXPECT_TRUE(isBackedUp(bytes));
+    for (const bool hasBackup : {false, true}) {
+      files = MemoryFiles();
+      if (hasBackup) files.put(kBackups / "today-2026-06-15.json", good);
+      files.put(kFile, bytes);
+      reopen();
+      reopen();
+      EXPECT_TRUE(files.read(kFile) == bytes && isBackedUp(bytes) && isBackedUp(good) == hasBackup);
+      EXPECT_EQ(files.list(kBackups)->size(), hasBackup ? 2u : 1u) << "the same bytes are kept once";
+      run("add a; reopen");
+      EXPECT_EQ(store->items().size(), 5u);
+      EXPECT_TRUE(isBackedUp(bytes));
+    }
   }
 }
 
@@ -59,15 +61,16 @@ TEST_F(StoreLoad, NeverWritesOverWhatNoBackupHolds) {
 }
 
 TEST(DataFolder, IsFoundOrMovedOrMade) {
-  const Path own = "/support/Brimle/today.json", predecessors = "/support/Quorel/today.json";
-  for (const auto& [present, moved] :
-       {std::pair("", ""), {"Quorel", "Quorel"}, {"Brimle Quorel", "Brimle"}}) {
+  const Path own = "/support/Brimle", predecessors = "/support/Quorel";
+  for (const auto& [isThere, isLeft] :
+       {std::pair(false, false), {false, true}, {true, false}, {true, true}}) {
     MemoryFiles files;
-    for (const auto& name : split(present, ' ')) files.put(Path("/support") / name / "today.json", name);
-    EXPECT_EQ(locateDataFolder(files, "/support"), own.parent_path());
-    EXPECT_TRUE(files.exists(own.parent_path()));
-    EXPECT_EQ(files.read(own).value_or(""), moved);
-    EXPECT_EQ(files.exists(predecessors), moved == std::string("Brimle"));
+    if (isThere) files.createFolders(own);
+    if (isLeft) files.put(predecessors / "today.json", "x");
+    EXPECT_EQ(locateDataFolder(files, "/support"), own);
+    EXPECT_TRUE(files.exists(own));
+    EXPECT_EQ(files.exists(own / "today.json"), isLeft && !isThere);
+    EXPECT_EQ(files.exists(predecessors), isLeft && isThere) << "an empty folder of its own is used as it is";
   }
 }
 
