@@ -1,7 +1,7 @@
 // Identities, days and signals.
 #include <gtest/gtest.h>
 
-#include <unordered_set>
+#include <utility>
 
 #include "base/day.h"
 #include "base/signal.h"
@@ -14,10 +14,7 @@ using namespace std::chrono_literals;
 
 TEST(Uuid, IsReadInEitherCaseAndWrittenInUpperCase) {
   const std::string text = "1B4E28BA-2FA1-41D2-883F-0016D3CCA427";
-  const auto id = Uuid::parse("1b4e28ba-2fa1-41D2-883f-0016d3cca427");
-  ASSERT_TRUE(id);
-  EXPECT_EQ(id->string(), text);
-  EXPECT_EQ(id->bytes[15], 0x27);
+  EXPECT_EQ(Uuid::parse("1b4e28ba-2fa1-41D2-883f-0016d3cca427").value().string(), text);
   EXPECT_FALSE(Uuid::parse(text + "0"));
   for (std::size_t at = 0; at < text.size(); ++at) {
     EXPECT_FALSE(Uuid::parse(text.substr(0, at)));
@@ -25,28 +22,23 @@ TEST(Uuid, IsReadInEitherCaseAndWrittenInUpperCase) {
       EXPECT_FALSE(Uuid::parse(std::string(text).replace(at, 1, 1, wrong))) << at << wrong;
     }
   }
-}
-
-TEST(Uuid, IsFreshAndOfVersionFour) {
-  std::unordered_set<Uuid> seen;
-  for (int count = 0; count < 1000; ++count) {
-    const Uuid id = *seen.insert(Uuid::random()).first;
-    EXPECT_EQ(id.string()[14], '4');
-    EXPECT_NE(std::string("89AB").find(id.string()[19]), std::string::npos);
-    EXPECT_EQ(Uuid::parse(id.string()), id);
-  }
-  EXPECT_EQ(seen.size(), 1000u);
+  const Uuid id = Uuid::random();
+  EXPECT_EQ(Uuid::parse(id.string()), id);
+  EXPECT_EQ(id.string()[14], '4');
+  EXPECT_NE(std::string("89AB").find(id.string()[19]), std::string::npos);
 }
 
 TEST(Day, HasAKeyThatSortsAsTheCalendarDoes) {
-  const std::string keys[] = {"0001-01-01", "0999-12-31", "1000-01-01",
-                              "2024-02-29", "2026-06-15", "9999-12-31"};
-  EXPECT_TRUE(std::ranges::is_sorted(keys, [](auto& a, auto& b) { return *parseDay(a) < *parseDay(b); }));
-  for (const auto& key : keys) EXPECT_EQ(dayKey(parseDay(key).value()), key);
+  std::string previous;
+  for (const Day day :
+       {1y / 1 / 1, 999y / 12 / 31, 1000y / 1 / 1, 2024y / 2 / 29, 2026y / 6 / 5, 9999y / 12 / 31}) {
+    EXPECT_EQ(parseDay(dayKey(day)), day);
+    EXPECT_LT(std::exchange(previous, dayKey(day)), dayKey(day));
+  }
   EXPECT_EQ(parseDay("2026-6-5"), Day(2026y / 6 / 5));
   for (const char* text :
        {"", "2026", "2026-06-", "2026-06-15 ", " 2026-06-15", "26-06-15", "02026-06-15", "2026/06/15",
-        "2026-06-015", "2026--6-15", "2026-+6-15", "2026-13-01", "2026-06-31", "1900-02-29", "0000-01-01"}) {
+        "2026-06-015", "2026--6-15", "2026-13-01", "2026-06-31", "1900-02-29", "0000-01-01"}) {
     EXPECT_FALSE(parseDay(text)) << text;
   }
   constexpr long long wrap = 1LL << 32;
@@ -57,22 +49,21 @@ TEST(Day, HasAKeyThatSortsAsTheCalendarDoes) {
 }
 
 TEST(Signal, CallsItsObserversInOrderWhileTheySubscribe) {
-  auto signal = std::make_unique<Signal<std::string>>();
+  Signal<std::string> signal;
   std::string heard;
-  Subscription self, other, late[3];
-  self = signal->subscribe(
-      [&, own = std::string("self, whose words are kept while it ends ")](const std::string& told) {
+  Subscription self, other, late;
+  self =
+      signal.subscribe([&, own = std::string("self, whose words are kept while it ends ")](const auto& told) {
         self = other = {};
-        for (auto& one : late) one = signal->subscribe([&](const std::string& more) { heard += more; });
+        late = signal.subscribe([&](const auto& more) { heard += more; });
         heard += own + told;
       });
-  other = signal->subscribe([&](const std::string&) { heard += "other"; });
-  const auto last = signal->subscribe([&](const std::string& told) { heard += "last" + told; });
-  signal->notify("1 ");
-  EXPECT_EQ(heard, "self, whose words are kept while it ends 1 last1 ");
-  heard.clear();
-  signal->notify("2 ");
-  EXPECT_EQ(heard, "last2 2 2 2 ");
+  other = signal.subscribe([&](const auto&) { heard += "other"; });
+  const auto last = signal.subscribe([&](const auto& told) { heard += "last" + told; });
+  signal.notify("1 ");
+  EXPECT_EQ(std::exchange(heard, ""), "self, whose words are kept while it ends 1 last1 ");
+  signal.notify("2 ");
+  EXPECT_EQ(heard, "last2 2 ");
 }
 
 TEST(Signal, MayGoBeforeItsSubscriptionsEvenWhileItCalls) {

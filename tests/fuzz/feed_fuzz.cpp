@@ -21,20 +21,15 @@ void checkSignature(std::string_view document, std::string_view last) {
   require(!isSigned(std::string(document) + '\n', genuine, key), "it is right for these bytes alone");
 }
 
-bool isPrintable(std::string_view text) {
-  return std::ranges::all_of(text, [](char c) { return c > ' ' && c <= '~'; });
-}
-
 void checkFeed(std::string_view document) {
   const auto feed = parseFeed(document);
   require(document.size() <= kLongestFeed || !feed, "no feed is longer than allowed");
   if (!feed) return;
-  require(feed->date.ok(), "its date is a day");
   require(feed->notes.size() <= 8 * 1024 && isValidUtf8(feed->notes),
           "its notes are a text of bounded length");
-  require(trimmedLines(feed->notes) == feed->notes, "its notes have no blank ends");
-  require(feed->address.size() <= 2 * 1024 && isPrintable(feed->address), "its address is plain and bounded");
-  require(feed->address.starts_with("https://") && feed->address.size() > 8, "its address is secure");
+  require(feed->address.starts_with("https://") && feed->address.size() <= 2 * 1024,
+          "its address is secure and bounded");
+  require(std::ranges::all_of(feed->address, [](char c) { return c > ' ' && c <= '~'; }), "and plain");
 
   std::string again = R"({"later":[1,{"version":2}],"version":)";
   json::appendString(again, feed->version.string());
@@ -43,11 +38,6 @@ void checkFeed(std::string_view document) {
   json::appendString(again += R"(,"address":)", feed->address);
   require(parseFeed(again + "}") == feed, "a feed reads as what was written");
   require(!parseFeed(again + R"(,"date":"2026-06-15"})"), "a key twice is an error");
-}
-
-void checkVersion(std::string_view text) {
-  const auto version = Version::parse(text);
-  if (version) require(version->string() == text, "a version has one form");
 }
 
 }  // namespace
@@ -61,6 +51,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view last = bytes.substr(std::min(end + 1, bytes.size()));
   checkFeed(document);
   checkSignature(document, last);
-  checkVersion(last);
+  const auto version = Version::parse(last);
+  require(!version || version->string() == last, "a version has one form");
   return 0;
 }

@@ -59,7 +59,8 @@ inline ScheduledItem scheduledItem(std::string_view word) {
 inline ArchiveDay archiveDay(std::string_view word) {
   ArchiveDay day{dateOf(word.substr(0, word.find(':'))), {}};
   for (const auto& entry : split(word.substr(word.find(':') + 1), ',')) {
-    day.items.push_back(archivedCopy(task(entry), task(entry).done));
+    const TodoItem it = task(entry);
+    day.items.push_back({it.id, it.text, it.done, it.notes});
   }
   return day;
 }
@@ -116,7 +117,7 @@ inline std::string shown(const Lists& lists) {
   return text;
 }
 
-/// The day file of a day with these lists.
+/// The day file of a day with these lists; of another day in June where the notation begins with "@14 ".
 inline std::string document(const Lists& lists, std::string_view day = "15") {
   std::string bytes;
   const EncodedDayFile encoded(dateOf(day), lists);
@@ -125,6 +126,7 @@ inline std::string document(const Lists& lists, std::string_view day = "15") {
 }
 
 inline std::string document(std::string_view state, std::string_view day = "15") {
+  if (state.starts_with('@')) return document(state.substr(4), state.substr(1, 2));
   return document(lists(state), day);
 }
 

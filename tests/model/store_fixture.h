@@ -18,32 +18,6 @@
 
 namespace brimle {
 
-/// What the store did, in its order: "save ", "resync ", "sweep " for a timer, "told-items-archive " for
-/// observers.
-inline std::string storeLog;
-
-struct LoggedFiles : MemoryFiles {
-  bool replace(const Path& path, std::span<const std::string_view> pieces) override {
-    if (path.filename() == "today.json") storeLog += "save ";
-    return MemoryFiles::replace(path, pieces);
-  }
-};
-
-struct LoggedTime : SimulatedTime {
-  void after(Seconds delay, std::function<void()> action) override {
-    if (delay > Seconds(0)) storeLog += "sweep ";  // only the sweep waits
-    SimulatedTime::after(delay, std::move(action));
-  }
-};
-
-struct LoggedCenter : SimulatedNotificationCenter {
-  using SimulatedNotificationCenter::SimulatedNotificationCenter;
-  void getAuthorizationStatus(std::function<void(AuthorizationStatus)> done) override {
-    storeLog += "resync ";
-    SimulatedNotificationCenter::getAuthorizationStatus(std::move(done));
-  }
-};
-
 class StoreTest : public testing::Test {
  protected:
   static inline const Path kFile = "/data/Brimle/today.json", kBackups = "/data/Brimle/Backups";
@@ -52,7 +26,7 @@ class StoreTest : public testing::Test {
   void open(const std::string& bytes) {
     store.reset();
     time.setClock(time.at("2026-06-15 09:00"));
-    files = LoggedFiles();
+    files = MemoryFiles();
     files.put(kFile, bytes);
     reopen();
   }
@@ -60,15 +34,15 @@ class StoreTest : public testing::Test {
   /// Ends the store and builds another on the files as they are.
   void reopen() {
     store.reset();
-    storeLog.clear();
     store.emplace(Store::Ports{time, *disk, desktop, notifications}, Region{}, folder);
     observer = store->observe([this](const Store::Changes& changes) {
-      storeLog += "told";
       const char* names[] = {"-items", "-archive", "-tomorrow", "-scheduled", "-sweepingIDs"};
       for (int field = 0; field < 5; ++field) {
-        if (changes.has(static_cast<Store::Field>(field))) storeLog += names[field];
+        if (changes.has(static_cast<Store::Field>(field))) tellings += names[field];
       }
-      storeLog += " ";
+      tellings += " ";
+      savesTold += changes.hasList();
+      resyncsTold += changes.has(Store::Field::scheduled);
       if (changes.hasList() && saves()) expectSaved();
     });
   }
@@ -93,112 +67,100 @@ class StoreTest : public testing::Test {
   /// Does the steps of a script, such as "tick A B; wait 0.9; undo". A text at a step's end is taken with its
   /// blanks.
   void run(std::string_view script) {
-    for (const auto& step : actionsOf(script)) step();
+    for (const auto& step : split(script, ';')) runStep(step.substr(step.find_first_not_of(' ')));
   }
 
-  std::vector<std::function<void()>> actionsOf(std::string_view script) {
-    std::vector<std::function<void()>> actions;
-    for (const auto& step : split(script, ';')) {
-      actions.push_back(actionOf(step.substr(step.find_first_not_of(' '))));
-    }
-    return actions;
-  }
-
-  std::function<void()> actionOf(const std::string& step) {
+  void runStep(const std::string& step) {
     const auto words = split(step, ' ');
     Store::Ids ids;
     for (std::size_t word = 1; word < words.size(); ++word) ids.push_back(idOf(words[word]));
     const Uuid id = ids.empty() ? Uuid() : ids[0];
-    const auto textAfter = [step](int blanks) {
+    const auto textAfter = [&step](int blanks) {
       std::size_t at = 0;
       while (blanks-- > 0 && at < step.size()) at = std::min(step.find(' ', at), step.size() - 1) + 1;
       return step.substr(at);
     };
     const std::map<std::string, std::function<void()>> verbs = {
-        {"tick", [=, this] { store->setDone(ids, true); }},
-        {"untick", [=, this] { store->setDone(ids, false); }},
-        {"mark", [=, this] { store->setHighlight(ids, true); }},
-        {"delete", [=, this] { store->removeMany(ids); }},
-        {"defer", [=, this] { store->tomorrowMany(ids); }},
-        {"pin", [=, this] { store->togglePinTop(id); }},
-        {"move", [=, this] { store->moveItem(id, ids.at(1)); }},
-        {"end", [=, this] { store->moveToEnd(id); }},
-        {"by", [=, this] { store->moveBy(id, std::stoi(words.at(2))); }},
-        {"rewrite", [=, this] { store->replace(id, task(words.at(2))); }},
-        {"add", [=, this] { store->addLines(textAfter(1), false); }},
-        {"later", [=, this] { store->addLines(textAfter(1), true); }},
-        {"send",
-         [=, this] {
-           store->sendToDay(store->find(id) ? *store->find(id) : task("Z"), dateOf(words.at(2)));
+        {"tick", [&] { store->setDone(ids, true); }},
+        {"untick", [&] { store->setDone(ids, false); }},
+        {"mark", [&] { store->setHighlight(ids, true); }},
+        {"delete", [&] { store->removeMany(ids); }},
+        {"defer", [&] { store->tomorrowMany(ids); }},
+        {"pin", [&] { store->togglePinTop(id); }},
+        {"move", [&] { store->moveItem(id, ids.at(1)); }},
+        {"end", [&] { store->moveToEnd(id); }},
+        {"by", [&] { store->moveBy(id, std::stoi(words.at(2))); }},
+        {"rewrite", [&] { store->replace(id, task(words.at(2))); }},
+        {"add", [&] { store->addLines(textAfter(1), false); }},
+        {"later", [&] { store->addLines(textAfter(1), true); }},
+        {"send", [&] { store->sendToDay(task(words.at(1)), dateOf(words.at(2))); }},
+        {"drop", [&] { store->removeScheduled(id); }},
+        {"bring", [&] { store->bringForward(id); }},
+        {"edit", [&] { store->editScheduled(id, textAfter(2)); }},
+        {"note", [&] { store->addScheduledNote(id); }},
+        {"renote", [&] { store->editScheduledNote(id, std::stoi(words.at(2)), textAfter(3)); }},
+        {"erase",
+         [&] {
+           store->removeArchived({ids.begin(), ids.end()});
          }},
-        {"drop", [=, this] { store->removeScheduled(id); }},
-        {"bring", [=, this] { store->bringForward(id); }},
-        {"edit", [=, this] { store->editScheduled(id, textAfter(2)); }},
-        {"note", [=, this] { store->addScheduledNote(id); }},
-        {"renote", [=, this] { store->editScheduledNote(id, std::stoi(words.at(2)), textAfter(3)); }},
-        {"erase", [=, this] { store->removeArchived(archived(words)); }},
-        {"back", [=, this] { store->bringBackMany(archived(words)); }},
-        {"undo", [this] { store->undo(); }},
-        {"redo", [this] { store->redo(); }},
-        {"day?", [this] { store->rolloverIfNeeded(); }},
-        {"search", [=, this] { store->archivedIDsInOrder(words.at(1)); }},
-        {"prepare", [this] { store->prepareSearch(); }},
-        {"remind", [this] { store->resyncArrivalNotifications(); }},
-        {"tell", [this] { store->dayAsText(); }},
-        {"wait", [=, this] { time.advance(Seconds(std::stod(words.at(1)))); }},
-        {"clock", [=, this] { time.setClock(time.at(words.at(1) + " " + words.at(2))); }},
-        {"reopen", [this] { reopen(); }}};
-    return verbs.at(words.at(0));
-  }
-
-  /// The archived tasks of these texts; and what is no archived task, a task's identity among it.
-  std::unordered_set<Uuid> archived(const std::vector<std::string>& texts) const {
-    std::unordered_set<Uuid> ids{idOf("unknown"), idOf("A")};
-    for (const ArchiveDay& day : store->archive()) {
-      for (const ArchivedItem& entry : day.items) {
-        if (std::ranges::count(texts, entry.text) > 0) ids.insert(entry.id);
-      }
-    }
-    return ids;
+        {"back",
+         [&] {
+           store->bringBackMany({ids.begin(), ids.end()});
+         }},
+        {"undo", [&] { store->undo(); }},
+        {"redo", [&] { store->redo(); }},
+        {"day?", [&] { store->rolloverIfNeeded(); }},
+        {"search", [&] { store->archivedIDsInOrder(words.at(1)); }},
+        {"prepare", [&] { store->prepareSearch(); }},
+        {"remind", [&] { store->resyncArrivalNotifications(); }},
+        {"wait", [&] { time.advance(Seconds(std::stod(words.at(1)))); }},
+        {"clock", [&] { time.setClock(time.at(words.at(1) + " " + words.at(2))); }},
+        {"reopen", [&] { reopen(); }}};
+    verbs.at(words.at(0))();
   }
 
   struct Row {
     const char* before;  ///< the lists of the day file, which is of another day after "@14 "
     const char* script;
     const char* after;
-    const char* log = nullptr;  ///< where it is given, what the script makes the store do
+    const char* told = nullptr;  ///< where it is given, the fields that observers are told of, each time
   };
 
+  /// Where observers are told of a list, it was saved once, and of scheduled tasks, the reminders follow.
   void expect(std::initializer_list<Row> rows) {
-    for (const auto& [before, script, after, log] : rows) {
+    for (const auto& [before, script, after, fields] : rows) {
       SCOPED_TRACE(std::string(before) + " -> " + script);
-      const std::string_view start(before);
-      open(start.starts_with('@') ? document(start.substr(4), start.substr(1, 2)) : document(start));
-      storeLog.clear();
+      open(document(before));
+      const int saved = files.replaces(kFile) - savesTold, resynced = notifications.statusAsks - resyncsTold;
+      tellings.clear();
       run(script);
       EXPECT_EQ(state(), after);
-      EXPECT_EQ(storeLog, log ? log : storeLog);
+      EXPECT_EQ(tellings, fields ? fields : tellings);
+      EXPECT_EQ(files.replaces(kFile) - savesTold, saved);
+      EXPECT_EQ(notifications.statusAsks - resyncsTold, resynced);
       expectSaved();
     }
   }
 
-  /// Each script is one step to undo, or does nothing where no log is given.
+  /// Each script is one step to undo, or does nothing where no fields are given.
   void expectOneStep(std::initializer_list<Row> rows) {
-    for (const auto& [before, script, after, log] : rows) {
-      expect({{before, script, after, log ? log : ""}});
+    for (const auto& [before, script, after, fields] : rows) {
+      expect({{before, script, after, fields ? fields : ""}});
       run("undo");
       EXPECT_EQ(state(), shown(lists(before))) << script;
     }
   }
 
-  LoggedTime time;
-  LoggedFiles files;
+  SimulatedTime time;
+  MemoryFiles files;
   Files* disk = &files;  ///< where the store keeps its files
   Path folder = kFile.parent_path();
   SimulatedDesktop desktop;
-  LoggedCenter notifications{time};
+  SimulatedNotificationCenter notifications{time};
   std::optional<Store> store;
   Subscription observer;
+  std::string tellings;  ///< the fields that observers were told of, as "-items-archive " each time
+  int savesTold = 0, resyncsTold = 0;
 };
 
 }  // namespace brimle
