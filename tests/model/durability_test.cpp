@@ -1,6 +1,8 @@
 // What a store on a real disk keeps, whichever file operation fails and whenever the program ends.
 #include <gmock/gmock.h>
+#include <sys/resource.h>
 
+#include <csignal>
 #include <fstream>
 
 #include "model/store_fixture.h"
@@ -43,6 +45,8 @@ const Fault kFaults[] = {{Fault::Kind::error, ENOSPC},
                          {Fault::Kind::error, EIO, true},
                          {Fault::Kind::error, EACCES},
                          {Fault::Kind::error, EACCES, true},
+                         {Fault::Kind::error, EDQUOT},
+                         {Fault::Kind::error, EROFS},
                          {Fault::Kind::error, EINTR},
                          {Fault::Kind::kill},
                          {Fault::Kind::shortWrite, 0, false},
@@ -55,13 +59,17 @@ class Durability : public StoreTest {
 
   bool saves() const override { return !failing; }
 
-  /// A new folder with the deed's day file, and the store on it.
+  /// A new folder with seven backups and the deed's day file, and the store on it.
   void begin() {
     store.reset();
     time.setClock(time.at("2026-06-15 09:00"));
     temporary.emplace(fs::is_directory(kMemory) ? kMemory : fs::temp_directory_path());
     folder = temporary->path / "Brimle";
     fs::create_directories(folder / "Backups");
+    for (const char day : std::string_view("1234567")) {
+      std::ofstream(folder / "Backups" / ("today-2026-06-0" + std::string(1, day) + ".json"))
+          << document("old");
+    }
     file = deed.linked ? temporary->path / "far" : folder / "today.json";
     if (deed.linked) fs::create_symlink("../far", folder / "today.json");
     if (!deed.bytes.empty()) {
@@ -170,6 +178,45 @@ TEST_F(Durability, OutlastsAnyFaultOfAnyOperationAndTheProgramsEnd) {
         endsProgram(fault) ? expectSurvives(before, after.first, fault) : expectGoesOn(before, after, fault);
       }
     }
+  }
+}
+
+TEST_F(Durability, OutlastsADiskThatFillsUp) {
+  deed = kDeeds[0];
+  begin();
+  const std::string before = onDisk();
+  rlimit unlimited{};
+  ::getrlimit(RLIMIT_FSIZE, &unlimited);
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  const rlimit small{4096, unlimited.rlim_max};
+  failing = true;
+  ::setrlimit(RLIMIT_FSIZE, &small);
+  store->addLines(std::string(10'000, 'x'), false);
+  ::setrlimit(RLIMIT_FSIZE, &unlimited);
+  std::signal(SIGXFSZ, handler);
+  failing = false;
+  EXPECT_EQ(onDisk(), before);
+  EXPECT_EQ(store->items().size(), 3u);
+  expectNextChangeSaved(false);
+}
+
+TEST_F(Durability, OutlastsAFolderThatMayOnlyBeRead) {
+  for (const Deed& each : {kDeeds[0], kDeeds[3]}) {
+    deed = each;
+    begin();
+    const std::string before = onDisk();
+    fs::permissions(temporary->path, fs::perms(0755));
+    for (const auto& name : {folder / "Backups", folder}) fs::permissions(name, fs::perms(0555));
+    const uid_t user = ::geteuid();
+    const uid_t refused = user == 0 ? 65534 : user;  // the superuser is refused nothing
+    ASSERT_EQ(::seteuid(refused), 0);
+    failing = true;
+    run(deed.act);
+    ASSERT_EQ(::seteuid(user), 0);
+    for (const auto& name : {folder, folder / "Backups"}) fs::permissions(name, fs::perms(0755));
+    failing = false;
+    EXPECT_EQ(onDisk(), before);
+    expectNextChangeSaved(false);
   }
 }
 
