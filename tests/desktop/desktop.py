@@ -55,31 +55,21 @@ def _startAndRead(*command):
         return process, pipe.readline().strip()
 
 
-def _setEnvironment():
-    """In the time zone in which it is about noon, so that no test meets midnight."""
-    kept = {name: os.environ[name] for name in KEPT if name in os.environ}
-    os.environ.clear()
-    os.environ.update(kept, HOME=str(HOME), LC_ALL="C.UTF-8", TZ=f"Etc/GMT{time.gmtime().tm_hour - 12:+d}",
-                      QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
-    time.tzset()
-    for name in FOLDERS:
-        os.environ[f"XDG_{name}"] = str(HOME / name)
-        (HOME / name).mkdir(mode=0o700)
-
-
-def _startWindowManager():
-    # It says that it manages windows a good while before it does; the command is run when it really does.
-    managing = HOME / "managing"
-    # Without its own uses of the mouse: to see every click first, it holds them back, and loses one in hundreds where
-    # another follows at once.
-    settings = HOME / "openbox.xml"
-    settings.write_text('<openbox_config xmlns="http://openbox.org/3.4/rc"><mouse/></openbox_config>')
-    start("openbox", "--config-file", settings, "--startup", f"touch {managing}")
-    waitUntil(managing.exists, "the window manager was ready")
-
-
 atexit.register(shutil.rmtree, HOME, ignore_errors=True)
-_setEnvironment()
+kept = {name: os.environ[name] for name in KEPT if name in os.environ}
+os.environ.clear()
+# In the time zone in which it is about noon, so that no test meets midnight.
+os.environ.update(kept, HOME=str(HOME), LC_ALL="C.UTF-8", TZ=f"Etc/GMT{time.gmtime().tm_hour - 12:+d}",
+                  QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+time.tzset()
+for folder in FOLDERS:
+    os.environ[f"XDG_{folder}"] = str(HOME / folder)
+    (HOME / folder).mkdir(mode=0o700)
 _, os.environ["DISPLAY"] = startServer()
-_startWindowManager()
+# Without its own uses of the mouse: to see every click first, the window manager holds them back, and loses one in
+# hundreds where another follows at once.
+(HOME / "openbox.xml").write_text('<openbox_config xmlns="http://openbox.org/3.4/rc"><mouse/></openbox_config>')
+# It says that it manages windows a good while before it does; the command is run when it really does.
+start("openbox", "--config-file", HOME / "openbox.xml", "--startup", f"touch {HOME}/managing")
+waitUntil((HOME / "managing").exists, "the window manager was ready")
 _, os.environ["DBUS_SESSION_BUS_ADDRESS"] = startBus()

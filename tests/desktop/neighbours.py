@@ -9,10 +9,6 @@ from waiting import connection
 _CALL, _HANDLED, _NOT_HANDLED = 1, dbus.lowlevel.HANDLER_RESULT_HANDLED, dbus.lowlevel.HANDLER_RESULT_NOT_YET_HANDLED
 
 
-def silence(_call):
-    """The answer of one who never answers."""
-
-
 def refusal(call):
     return dbus.lowlevel.ErrorMessage(call, "org.example.Error.Refused", "no")
 
@@ -27,7 +23,9 @@ def reply(*arguments, signature):
 
 
 class Neighbour:
-    def __init__(self, *names, answer=silence):
+    """Never answers unless it is told how."""
+
+    def __init__(self, *names, answer=None):
         self.calls = []  # the names of the methods that were called
         self.bus = connection(os.environ["DBUS_SESSION_BUS_ADDRESS"])
         self._answer = answer
@@ -44,7 +42,6 @@ class Neighbour:
         if message.get_type() != _CALL:
             return _NOT_HANDLED
         self.calls.append(message.get_member())
-        answer = self._answer(message)
-        if answer is not None:
-            self.bus.send_message(answer)
+        if self._answer:
+            self.bus.send_message(self._answer(message))
         return _HANDLED

@@ -11,7 +11,7 @@ import desktop
 import hands
 from case import ADD, DesktopCase, dayKey
 from day_file import Day
-from neighbours import Neighbour, refusal, reply, silence
+from neighbours import Neighbour, refusal, reply
 from waiting import waitUntil
 
 PROGRAM = "org.brimle.Brimle", "/org/brimle/Brimle", "org.freedesktop.Application"
@@ -31,15 +31,14 @@ BAD_CHANGES = [  # of settings of the desktop
     (["org.kde.kdeglobals.KDE", "AnimationDurationFactor", "\n"], "ssv"),
 ]
 BAD_CALLS = [
-    ("Activate", [], ""),
     *[("Activate", [{"activation-token": dbus.Array([1], variant_level=1), "": "x" * 999}], "a{sv}")] * 1000,
     ("ActivateAction", ["quit", [], {}], "sava{sv}"), ("ActivateAction", ["", [1, "x"], {}], "sava{sv}"),
-    ("ActivateAction", [1], "i"), ("Open", [["file:///etc/passwd"] * 100, {}], "asa{sv}"), ("deleteLater", [], ""),
+    ("ActivateAction", [1], "i"), ("deleteLater", [], ""),
 ]
 
 
 class Neighbours(DesktopCase):
-    def meet(self, *names, answer=silence):
+    def meet(self, *names, answer=None):
         neighbour = Neighbour(*names, answer=answer)
         self.addCleanup(neighbour.bus.close)
         return neighbour
@@ -56,7 +55,7 @@ class Neighbours(DesktopCase):
 
     def testNoAnswerOfTheDesktopIsWaitedForOrTrusted(self):
         nonsense = [reply(*arguments, signature=signature) for arguments, signature in NONSENSE]
-        for number, answer in enumerate([silence, refusal, *nonsense]):
+        for number, answer in enumerate([None, refusal, *nonsense]):
             with self.subTest(number):
                 self.doCleanups()
                 neighbour = self.meet(*SERVICES, answer=answer)
