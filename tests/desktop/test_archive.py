@@ -56,7 +56,7 @@ class Archive(DesktopCase):
             self.expectDay(scheduled=scheduled)
         self.choose(self.row("tea"), "Add note")
         self.waitForFocus(EDIT, "")
-        for key, shown in [("Up", "tea"), ("Tab", "")]:
+        for key, shown in [("Up", "tea"), ("Down", ""), ("Up", "tea"), ("Tab", "")]:
             hands.press(key)
             self.waitForFocus(EDIT, shown)
         hands.enter("green")
