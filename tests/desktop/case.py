@@ -10,10 +10,10 @@ from dataclasses import replace
 from pathlib import Path
 
 import day_file
+import desktop
 import hands
-from controls import MenuWatch, applicationOf
+from controls import MenuWatch, application
 from day_file import Day
-from desktop import DESKTOP
 from waiting import DEADLINE, waitUntil
 
 PROGRAM = os.environ.get("BRIMLE_PROGRAM", Path(__file__).parents[2] / "build/bin/brimle")
@@ -24,18 +24,6 @@ EDIT = "Edit"
 def dayKey(offset=0):
     """The key of today's day, or of one some days later (or, below zero, earlier)."""
     return (datetime.date.today() + datetime.timedelta(days=offset)).isoformat()
-
-
-def nextKey(month, day):
-    """The key of the next such date after today."""
-    today = datetime.date.today()
-    date = datetime.date(today.year, month, day)
-    return (date if date > today else date.replace(year=today.year + 1)).isoformat()
-
-
-def frame(numbers):
-    """The settings in which the window had this place and size."""
-    return f"[General]\nNSWindow%20Frame%20TodayWindow={numbers}\n"
 
 
 def textOf(row):
@@ -52,44 +40,35 @@ class DesktopCase(unittest.TestCase):
 
     def start(self, *today, **lists):
         """Starts the program on a day with these lists and waits until its entry field has the keyboard."""
-        self.launch(Day(list(today), **lists))
-        self.menus = MenuWatch()
+        self.menus = MenuWatch()  # first, since a program asks as it starts which events are wanted
         self.addCleanup(self.menus.end)
-        self.app = self.until(lambda: applicationOf(self._program), "the program was on the accessibility bus")
+        self.startElsewhere(Day(list(today), **lists))
+        self.app = application("Brimle")
         self.window = self.app.find("window", "Brimle")
-        # The field may say that it has the keyboard before its window has.
-        self.waitForKeyboard()
         self.waitForFocus(self.add)
 
-    def startElsewhere(self, *today, **environment):
-        """Starts the program on a day with this list, in an environment in which it may be met by the keyboard alone:
-        other buses than those of the tests. Waits until its window has the keyboard."""
-        self.launch(Day(list(today)), **environment)
-        self.waitForKeyboard()
-
-    def launch(self, day, **environment):
-        """Starts the program on a day and waits for nothing."""
+    def startElsewhere(self, day, **environment):
+        """Starts the program on a day, in an environment in which it may be met by the keyboard alone: other buses than
+        those of the tests. Waits until its window has the keyboard."""
         self.day = day
         self._file = Path(os.environ["XDG_DATA_HOME"]) / "Brimle/today.json"
         self._file.parent.mkdir(exist_ok=True)
-        self._file.write_text(day_file.encoded(day, self.date().isoformat()), encoding="utf-8")
+        self._file.write_text(day_file.encoded(self.day, self.date().isoformat()), encoding="utf-8")
         hands.moveTo(hands.NOWHERE)
-        self._messages = (DESKTOP.home / "messages").open("w+", encoding="utf-8")
-        self._program = DESKTOP.start(PROGRAM, stderr=self._messages, env=os.environ | self.environment | environment)
+        self._messages = desktop.HOME / "messages"
+        with self._messages.open("w") as messages:
+            self._program = desktop.start(PROGRAM, stderr=messages, env=os.environ | self.environment | environment)
         self.addCleanup(self._end)
+        self.waitForKeyboard()
 
     def waitForKeyboard(self):
-        """Until the program's window has it."""
-        self.until(lambda: hands.keyboardOwner() == self._program.pid, "the window had the keyboard")
+        """Until the program's window has it: its field may say before that it has the keyboard."""
+        self.expect("Brimle", hands.keyboardWindow, "the window with the keyboard")
 
     def expectInUse(self):
         """The entry field takes a task, and the day file has it."""
         hands.enter("tea")
         self.expectDay(today=[*self.day.today, "tea"])
-
-    def quit(self):
-        hands.press("ctrl+q")
-        self.assertEqual(self.waitUntilEnded(), 0, self._said())
 
     def waitUntilEnded(self):
         """Its exit status, as soon as it has ended by itself with its day file as at the last look."""
@@ -97,35 +76,45 @@ class DesktopCase(unittest.TestCase):
         self.assertEqual(self._read(), self.day)
         return status
 
-    def _said(self):
-        self._messages.seek(0)
-        return self._messages.read()
-
     def _end(self):
-        DESKTOP.end(self._program)
-        messages = self._said()
-        self._messages.close()
+        desktop.end(self._program)
         for variable in ("XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME"):
-            for entry in Path(os.environ[variable]).glob("[Bb]rimle"):
-                shutil.rmtree(entry) if entry.is_dir() else entry.unlink()
-        self.assertNotIn("qrc:", messages, "a view complained")
+            shutil.rmtree(os.environ[variable])
+            os.mkdir(os.environ[variable])
+        self.assertNotIn("qrc:", self._messages.read_text(), "a view complained")
 
-    def until(self, condition, what, meanwhile=lambda: None):
-        """Waits until a condition holds, doing something before every look at it where that is given."""
+    def until(self, condition, what):
+        """Waits until a condition holds."""
         def conditionWhileItRuns():
             if self._program.poll() is not None:
-                self.fail(f"the program ended with {self._program.returncode}; it said:\n{self._said()}")
-            meanwhile()
+                self.fail(f"the program ended with {self._program.returncode}; it said:\n{self._messages.read_text()}")
             return condition()
         return waitUntil(conditionWhileItRuns, what)
+
+    def expect(self, value, look, what, meanwhile=lambda: None):
+        """Waits until a look gives this value, doing something before every look where that is given."""
+        seen = None
+
+        def isThere():
+            nonlocal seen
+            meanwhile()
+            seen = look()
+            return seen == value
+        self.until(isThere, lambda: f"{what} is\n{value}\nwhile it is\n{seen}")
 
     # The day file.
 
     def expectDay(self, meanwhile=lambda: None, **lists):
         """Waits until these lists hold these tasks, and the others what they held at the last look."""
         self.day = replace(self.day, **lists)
-        self.until(lambda: self._read() == self.day, lambda: f"the day is\n{self.day}\nwhile it is\n{self._read()}",
-                   meanwhile)
+        self.expect(self.day, self._read, "the day", meanwhile)
+
+    def undoUntil(self, **lists):
+        """Undoes step by step until the day is this: a typed change is one step or several, by how fast it is typed."""
+        self.day = replace(self.day, **lists)
+        while (before := self._read()) != self.day:
+            hands.press("ctrl+z")
+            self.until(lambda: self._read() != before, f"a step back to\n{self.day}\nfrom\n{before}")
 
     def _read(self):
         return day_file.decoded(self._file.read_text(encoding="utf-8"))
@@ -136,108 +125,57 @@ class DesktopCase(unittest.TestCase):
         """The rows in sight, from the top down. The tree keeps them in the order in which they came."""
         shown = self.window.find("list")
         _, top, _, height = shown.box
-        placed = [(row.box, row) for row in shown.all("row")]
-        seen = [(box[1], row) for box, row in placed if top - 1 <= box[1] and box[1] + box[3] <= top + height + 1]
-        return [row for _, row in sorted(seen, key=lambda one: one[0])]
+        seen = [row for row in shown.all("row") if top - 1 <= row.box[1] and row.box[1] + row.box[3] <= top + height + 1]
+        return sorted(seen, key=lambda row: row.box[1])
 
     def row(self, text):
         """The row of a task, when all rows have come to rest."""
         self.waitForRest()
-        found = self.until(lambda: [row for row in self.rows() if textOf(row) == text],
-                           lambda: f"there was a row {text!r}; there are {[row.name for row in self.rows()]}")
-        self.assertEqual(len(found), 1)
-        return found[0]
+        return self.until(lambda: next((row for row in self.rows() if textOf(row) == text), None),
+                          f"there was a row {text!r}")
 
     def waitForRest(self):
-        """Until no row moves from one look to the next, and none lies over another or leaves a gap that is to close."""
+        """Until no row moves from one look to the next, and none of today's list, whose rows move by themselves, lies over
+        another or leaves a gap that is to close."""
         last = None
 
         def atRest():
             nonlocal last
             before, last = last, [row.box for row in self.rows()]
-            return last == before and self._stacked(last)
+            shown = self.window.find("list")
+            ends = [shown.box[1], *(top + height for _, top, _, height in last)]
+            stacked = all(abs(top - end) <= 1 for (_, top, _, _), end in zip(last, ends))
+            return last == before and (stacked or shown.name == "Archive")
         self.until(atRest, lambda: f"the rows were at rest; they are at {last}")
 
-    def _stacked(self, boxes):
-        """Whether the rows of today's list stand one below the other from its top. The archive's never move alone."""
-        shown = self.window.find("list")
-        top = shown.box[1]
-        for _, y, _, height in boxes if shown.name == "Task list" else []:
-            if abs(y - top) > 1:
-                return False
-            top = y + height
-        return True
-
     def expectRows(self, *texts):
-        self.until(lambda: [textOf(row) for row in self.rows()] == list(texts),
-                   lambda: f"the rows were {texts}; they are {[row.name for row in self.rows()]}")
-
-    def selected(self):
-        """The texts of the selected rows."""
-        return [textOf(row) for row in self.rows() if "selected" in row.name.split(", ")]
+        self.expect(list(texts), lambda: [textOf(row) for row in self.rows()], "the list")
 
     def expectSelected(self, *texts):
-        self.until(lambda: self.selected() == list(texts), lambda: f"{texts} were selected; {self.selected()} are")
-
-    def select(self, text, **more):
-        """Clicks a row, then others with a key held: `ctrl=["milk", "tea"]`."""
-        hands.click(self.row(text).point())
-        for held, texts in more.items():
-            for other in texts:
-                hands.click(self.row(other).point(), held=held)
-        clicked = {text}.union(*more.values())
-        self.until(lambda: clicked <= set(self.selected()), lambda: f"{clicked} were selected; {self.selected()} are")
+        self.expect(list(texts), lambda: [textOf(row) for row in self.rows() if "selected" in row.name.split(", ")],
+                    "what is selected")
 
     # The keyboard.
 
     def waitForFocus(self, name, text=None, role="field"):
         """Until the control of this name has the keyboard and, where it is given, holds this text."""
         def focused():
-            controls = [control for control in self.window.all(role, name) if control.focused]
-            return controls and (text is None or controls[0].text == text)
-        self.until(focused, lambda: f"the {role} {name!r} had the keyboard"
-                   + ("" if text is None else f" and held {text!r}") + f"; there are\n{self.window.tree()}")
+            return any(one.focused and (text is None or one.text == text) for one in self.window.all(role, name))
+        self.until(focused, lambda: f"the {role} {name!r} with {text!r} had the keyboard; there are\n{self.window.tree()}")
 
     def waitUntilClosed(self, name):
         self.until(lambda: not self.window.all("field", name), f"the field {name!r} was closed")
 
-    def undoUntil(self, **lists):
-        """Undoes step by step until the day is this: a typed change is one step or several, by how fast it is typed."""
-        self.day = replace(self.day, **lists)
-        while self._read() != self.day:
-            before = self._stamp()
-            hands.press("ctrl+z")
-            self.until(lambda: self._stamp() != before, lambda: f"a step back to\n{self.day}\nfrom\n{self._read()}")
-
-    def _stamp(self):
-        status = self._file.stat()
-        return status.st_ino, status.st_mtime_ns
-
     # Menus and the clipboard.
 
-    def choose(self, row, item):
-        """Opens the context menu of a row and clicks an item of it."""
-        hands.rightClick(row.point())
-        hands.click(self.menus.item(item).point())
-        self.menus.waitUntilClosed()
-
-    def chooseFromMainMenu(self, *path):
-        """Opens the program's menu and clicks an item of it, of its submenu, and so on."""
-        hands.click(self.window.find("button", "Menu").point())
+    def choose(self, control, *path, button=3):
+        """Clicks what has a menu, an item of it, of its submenu, and so on."""
+        hands.click(control.point(), button)
         for item in path:
             hands.click(self.menus.item(item).point())
         self.menus.waitUntilClosed()
 
     def copied(self):
         """The text on the clipboard."""
-        answer = subprocess.run(["xclip", "-selection", "clipboard", "-out"], capture_output=True, check=False,
-                                timeout=30)
-        return answer.stdout.decode()
-
-    def expectCopied(self, text):
-        self.until(lambda: self.copied() == text, lambda: f"the text {text!r} was copied; it is {self.copied()!r}")
-
-    def putOnClipboard(self, text):
-        subprocess.run(["xclip", "-selection", "clipboard", "-in"], input=text.encode(), check=True, timeout=30,
-                       stderr=DESKTOP.log)
-        self.expectCopied(text)
+        return subprocess.run(["xclip", "-selection", "clipboard", "-out"], capture_output=True, text=True, check=False,
+                              timeout=30).stdout

@@ -7,6 +7,7 @@ import json
 import re
 import uuid
 from dataclasses import dataclass, field
+from itertools import groupby
 
 MARKS = {"*": "repeats", "+": "done", "!": "pinnedTop", "^": "highlighted", "#": "clearedToday"}
 
@@ -21,40 +22,29 @@ class Day:
 
 def _record(notation):
     text, marks, notes = re.fullmatch(r"(.*?)([*%+!^#]*)((?: / .*)?)", notation).groups()
-    record = {"id": str(uuid.uuid4()).upper(), "text": text, "notes": notes.split(" / ")[1:]}
+    record = {"id": str(uuid.uuid4()).upper(), "text": text, "notes": notes.split(" / ")[1:], "completed": "+" in marks}
     record.update({key: mark in marks for mark, key in MARKS.items()})
     return record | {"schedule": "weekdays" if "%" in marks else "everyDay"}
 
 
 def _notation(record):
+    record = {"done": record.get("completed")} | record
     marks = "".join(mark for mark, key in MARKS.items() if record.get(key))
     marks += "%" if record.get("schedule") == "weekdays" else ""
     return " / ".join([record["text"] + marks, *record["notes"]])
 
 
-def _dated(notation):
-    date, text = notation.split(" ", 1)
-    return date, _record(text)
-
-
-def _archiveDays(entries):
-    days = {}
-    for date, record in map(_dated, entries):
-        kept = {key: record[key] for key in ("id", "text", "notes")}
-        days.setdefault(date, []).append(kept | {"completed": record["done"]})
-    return [{"date": date, "items": items} for date, items in days.items()]
-
-
 def encoded(day, date):
     """The day file of `day` whose today is the day key `date`."""
+    scheduled, archive = ([entry.split(" ", 1) for entry in dated] for dated in (day.scheduled, day.archive))
     return json.dumps({
         "version": 1,
         "date": date,
         "items": [_record(task) for task in day.today],
         "tomorrow": [_record(task) for task in day.tomorrow],
-        "scheduled": [{"id": str(uuid.uuid4()).upper(), "date": due, "item": item}
-                      for due, item in map(_dated, day.scheduled)],
-        "archive": _archiveDays(day.archive),
+        "scheduled": [{"id": str(uuid.uuid4()).upper(), "date": due, "item": _record(task)} for due, task in scheduled],
+        "archive": [{"date": past, "items": [_record(task) for _, task in entries]}
+                    for past, entries in groupby(archive, lambda entry: entry[0])],
     })
 
 
@@ -64,6 +54,5 @@ def decoded(document):
         [_notation(task) for task in file["items"]],
         [_notation(task) for task in file["tomorrow"]],
         [f"{entry['date']} {_notation(entry['item'])}" for entry in file["scheduled"]],
-        [f"{day['date']} {_notation(entry | {'done': entry['completed']})}"
-         for day in file["archive"] for entry in day["items"]],
+        [f"{day['date']} {_notation(entry)}" for day in file["archive"] for entry in day["items"]],
     )

@@ -9,8 +9,10 @@ KEY_DELAY = 8  # milliseconds between two typed characters
 NOWHERE = (5, 790)  # a corner of the screen without windows
 
 
-def _xdotool(*words):
-    subprocess.run(["xdotool", *map(str, words)], check=True, timeout=30)
+def _xdotool(*words, check=True):
+    """What it says."""
+    answer = subprocess.run(["xdotool", *map(str, words)], check=check, timeout=30, capture_output=True, text=True)
+    return answer.stdout.strip()
 
 
 def press(*keys):
@@ -36,10 +38,6 @@ def click(point, button=1, held=None):
     """A click, with the modifier `held` where one is named ("ctrl", "shift")."""
     holding = (["keydown", held], ["keyup", held]) if held else ([], [])
     _xdotool("mousemove", *point, *holding[0], "click", button, *holding[1])
-
-
-def rightClick(point):
-    click(point, button=3)
 
 
 def doubleClick(point):
@@ -70,32 +68,11 @@ def glide(start, end):
     _xdotool(*words)
 
 
-def _answer(*words):
-    """What xdotool says; empty where it finds nothing."""
-    return subprocess.run(["xdotool", *words], capture_output=True, text=True, check=False, timeout=30).stdout.strip()
-
-
-def keyboardOwner():
-    """The process whose window has the keyboard; nothing where no window has it."""
-    return int(_answer("getwindowfocus", "getwindowpid") or 0) or None
-
-
 def keyboardWindow():
     """The title of the window that has the keyboard; empty where no window has it."""
-    return _answer("getwindowfocus", "getwindowname")
+    return _xdotool("getwindowfocus", "getwindowname", check=False)
 
 
-def windowOf(process):
-    """The window of a program, as X numbers it; empty while none is in sight."""
-    return _answer("search", "--onlyvisible", "--pid", str(process.pid)).partition("\n")[0]
-
-
-def focus(window):
-    """Gives the keyboard to a window where there is no window manager to do so."""
-    _xdotool("windowfocus", window)
-
-
-def boxOf(window):
-    """Left, top, width, height, in pixels of the screen."""
-    values = dict(line.split("=") for line in _answer("getwindowgeometry", "--shell", window).split())
-    return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+def giveKeyboardTo(title):
+    """For where there is no window manager to do so; does nothing while no such window is in sight."""
+    _xdotool("search", "--onlyvisible", "--name", f"^{title}$", "windowfocus", check=False)

@@ -1,18 +1,21 @@
 """Waiting for something to become true. Nothing here waits for time: a condition is looked at until it holds, and the
-deadline only ends a wait that would never end. While it waits, events of the accessibility bus are delivered.
+deadline only ends a wait that would never end. While it waits, what comes from the buses is delivered.
 """
 import time
 
+import dbus.bus
+from dbus.mainloop.glib import DBusGMainLoop
 from gi.repository import GLib
 
 DEADLINE = 20  # seconds; far more than anything takes
 POLL = 0.015  # seconds between two looks
 
 
-def _deliverEvents():
-    context = GLib.MainContext.default()
-    while context.iteration(False):
-        pass
+def connection(address):
+    """To a bus."""
+    bus = dbus.bus.BusConnection(address, mainloop=DBusGMainLoop())
+    bus.set_exit_on_disconnect(False)
+    return bus
 
 
 def waitUntil(condition, what):
@@ -20,10 +23,11 @@ def waitUntil(condition, what):
     function, asked when the deadline is over. A control that vanishes while it is looked at counts as not yet."""
     end = time.monotonic() + DEADLINE
     while True:
-        _deliverEvents()
+        while GLib.MainContext.default().iteration(False):
+            pass
         try:
             value = condition()
-        except GLib.Error:
+        except dbus.DBusException:
             value = None
         if value:
             return value
