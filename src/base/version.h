@@ -19,6 +19,7 @@ struct Version {
   static std::optional<Version> parse(std::string_view text);
   std::string string() const;
 
+  // NOLINTNEXTLINE(modernize-use-nullptr): takes the compiler's own comparison with 0 for a null pointer
   std::strong_ordering operator<=>(const Version&) const = default;
 };
 
