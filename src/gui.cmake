@@ -37,5 +37,6 @@ set_target_properties(brimle_views PROPERTIES BRIMLE_HAS_GENERATED_CODE ON)
 # The generated type registration includes headers by their bare names.
 target_include_directories(brimle_views PRIVATE views/qt)
 
-add_executable(brimle app/main.cpp app/qt_application.cpp)
+file(GLOB program_sources CONFIGURE_DEPENDS app/*.cpp)
+add_executable(brimle ${program_sources})
 target_link_libraries(brimle PRIVATE brimle_desktop brimle_views brimle_viewsplugin)

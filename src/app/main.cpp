@@ -13,6 +13,7 @@
 
 #include "app/core/app_delegate.h"
 #include "app/qt_application.h"
+#include "app/services.h"
 #include "i18n/i18n.h"
 #include "i18n/region.h"
 #include "model/data_folder.h"
@@ -23,28 +24,15 @@
 #include "platform/desktop/posix_bus_probe.h"
 #include "platform/desktop/posix_files.h"
 #include "platform/desktop/posix_folder_lock.h"
-#include "platform/desktop/qt_desktop.h"
-#include "platform/desktop/qt_feed_source.h"
-#include "platform/desktop/qt_global_menu.h"
-#include "platform/desktop/qt_hot_key.h"
 #include "platform/desktop/qt_instance.h"
-#include "platform/desktop/qt_link_opener.h"
-#include "platform/desktop/qt_login_item.h"
 #include "platform/desktop/qt_notification_center.h"
-#include "platform/desktop/qt_pasteboard.h"
 #include "platform/desktop/qt_preferences_store.h"
-#include "platform/desktop/qt_settings_portal.h"
-#include "platform/desktop/qt_status_item.h"
-#include "platform/desktop/qt_time.h"
-#include "platform/desktop/qt_update_windows.h"
 #include "platform/desktop/qt_workspaces.h"
 #include "platform/system_locale.h"
 #include "prefs/migration.h"
 #include "prefs/ui_state.h"
-#include "updates/feed_update_controller.h"
 #include "views/content_view.h"
 #include "views/qt/main_window.h"
-#include "views/qt/pop_up_menu.h"
 
 namespace brimle {
 namespace {
@@ -118,56 +106,55 @@ void watchApplication(QApplication& application, AppDelegate& app) {
   QObject::connect(&application, &QApplication::aboutToQuit, &application, [&] { app.willTerminate(); });
 }
 
-/// What the first frame does not show waits for so long, by which time most machines have painted it. It does
-/// not wait for the frame itself: a window that nobody sees has none.
-constexpr std::chrono::milliseconds kFirstFrame(50);
+/// Tells Qt, and by it the desktop, which program this is.
+void introduce(const Version& version) {
+  QApplication::setApplicationName(QStringLiteral("Brimle"));
+  QApplication::setApplicationVersion(QString::fromStdString(version.string()));
+  QApplication::setDesktopFileName(QLatin1String(kApplicationId));
+  QApplication::setQuitOnLastWindowClosed(false);
+}
 
-int run(int argc, char** argv) {
-  passOverHangingBus();
+/// Once the event loop runs. What the first frame does not show waits until most machines have painted it,
+/// and not for the frame itself: a window that nobody sees has none.
+void launch(QApplication& application, AppDelegate& app) {
+  constexpr std::chrono::milliseconds firstFrame(50);
+  QTimer::singleShot(0, &application, [&] { app.finishedLaunching(); });
+  QTimer::singleShot(firstFrame, &application, [&] {
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/qt/qml/Brimle/org.brimle.Brimle.svg")));
+    app.joinDesktop();
+  });
+}
+
+/// What the program finds before it meets the desktop.
+struct Basis {
   const Folders folders;
   const SystemLocale locale = systemLocale(environmentVariable);
   PosixFiles files;
   const Path dataFolder = locateDataFolder(files, folders.data);
-  const FolderLock lock(dataFolder);
-  const bool alone = lock.result() != FolderLock::Result::heldByAnother;
+  const FolderLock lock{dataFolder};
+  QtPreferencesStore preferences{folders.config / "brimle" / "settings.ini", files};
 
-  QtPreferencesStore preferences(folders.config / "brimle" / "settings.ini", files);
-  migrateFromQuorel(preferences, QtPreferencesStore(folders.config / "quorel" / "settings.ini", files));
-  I18n::setLang(I18n::resolve(preferences.string("language").value_or("system"), locale.preferredLanguages));
-  if (!alone) {
-    const QCoreApplication application(argc, argv);
-    return handOver();
+  Basis() {
+    migrateFromQuorel(preferences, QtPreferencesStore(folders.config / "quorel" / "settings.ini", files));
+    const std::string language = preferences.string("language").value_or("system");
+    I18n::setLang(I18n::resolve(language, locale.preferredLanguages));
   }
+};
 
+int run(Basis& basis, int argc, char** argv) {
   letParserReadEnvironment();
   // While the libraries of the desktop are set up.
-  auto stored = std::async(std::launch::async, [&] { return readStoredDay(files, dataFolder); });
+  auto stored = std::async(std::launch::async, [&] { return readStoredDay(basis.files, basis.dataFolder); });
 
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
   QApplication application(argc, argv);
-  UIState ui(preferences, locale.preferredLanguages);
+  UIState ui(basis.preferences, basis.locale.preferredLanguages);
   MainWindow::Foundation foundation(ui);
-  QApplication::setDesktopFileName(QLatin1String(kApplicationId));
-  QApplication::setQuitOnLastWindowClosed(false);
-
   const BuildSettings build = buildSettings();
-  QApplication::setApplicationName(QStringLiteral("Brimle"));
-  QApplication::setApplicationVersion(QString::fromStdString(build.version.string()));
+  introduce(build.version);
   // What the desktop's own colours suggest, before ours replace them.
   const bool desktopLooksDark = QApplication::palette().window().color().lightness() < 128;
-
-  QtTime time;
-  QtSettingsPortal settings;
-  QtDesktop desktop(settings);
-  QtPasteboard pasteboard;
-  QtLinkOpener links;
-  QtStatusItem status(settings, desktopLooksDark, popUpMenu);
-  QtGlobalMenu globalMenu;
-  const std::unique_ptr<HotKey> hotKey = hotKeyOfDesktop(preferences);
-  QtLoginItem loginItem(files);
-  QtFeedSource feed;
-  QtUpdateWindows updateWindows;
-  FeedUpdateController updates(build, feed, updateWindows);
+  Services services(basis.files, basis.preferences, build, desktopLooksDark);
 
   // Others can call before the program that answers them is put together.
   AppDelegate* delegate = nullptr;
@@ -178,32 +165,30 @@ int run(int argc, char** argv) {
                          if (delegate) delegate->focusQuickAdd(token);
                        }});
   instance.announce();
-  QtNotificationCenter notifications(time, files, folders.state / "brimle", reopen);
+  QtNotificationCenter notifications(services.time, basis.files, basis.folders.state / "brimle", reopen);
 
-  Store store({time, files, desktop, notifications}, regionOf(locale.region), dataFolder, stored.get());
-  SelectionModel sel(time);
+  Store store({services.time, basis.files, services.desktop, notifications}, regionOf(basis.locale.region),
+              basis.dataFolder, stored.get());
+  SelectionModel sel(services.time);
   Signal<> todayFocusAdd;
-  ContentView content(store, time);
-  ArchiveView archive(store, sel, ui, time);
-  MainWindow window({store, content, archive, ui, sel, time, todayFocusAdd, links}, pasteboard,
-                    std::move(foundation));
-  QtApplication desktopApplication(window.theme(), settings, desktopLooksDark);
-  MenuHosts menus({&window.menus(), &globalMenu});
-  AppDelegate app({time, desktop, preferences, pasteboard, notifications, desktopApplication, window, menus,
-                   status, *hotKey, loginItem, updates, window.shortcuts(), links},
+  ContentView content(store, services.time);
+  ArchiveView archive(store, sel, ui, services.time);
+  MainWindow window({store, content, archive, ui, sel, services.time, todayFocusAdd, services.links},
+                    services.pasteboard, std::move(foundation));
+  QtApplication desktopApplication(window.theme(), services.settings, desktopLooksDark);
+  MenuHosts menus({&window.menus(), &services.globalMenu});
+  AppDelegate app({services.time, services.desktop, basis.preferences, services.pasteboard, notifications,
+                   desktopApplication, window, menus, services.status, *services.hotKey, services.loginItem,
+                   services.updates, window.shortcuts(), services.links},
                   store, ui, todayFocusAdd, build.supportAddress);
 
-  window.setReports(reportsTo(app, globalMenu, instance));
+  window.setReports(reportsTo(app, services.globalMenu, instance));
   watchApplication(application, app);
-  const auto tellHotKey = [&] { window.shortcuts().setHotKey(hotKey->keyInForce()); };
-  const Subscription hotKeyTold = hotKey->observe(tellHotKey);
+  const auto tellHotKey = [&] { window.shortcuts().setHotKey(services.hotKey->keyInForce()); };
+  const Subscription hotKeyTold = services.hotKey->observe(tellHotKey);
   tellHotKey();
   delegate = &app;
-  QTimer::singleShot(0, &application, [&] { app.finishedLaunching(); });
-  QTimer::singleShot(kFirstFrame, &application, [&] {
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/qt/qml/Brimle/org.brimle.Brimle.svg")));
-    app.joinDesktop();
-  });
+  launch(application, app);
   return QApplication::exec();
 }
 
@@ -212,5 +197,9 @@ int run(int argc, char** argv) {
 
 int main(int, char** argv) {
   int argc = 1;  // no arguments are read
-  return brimle::run(argc, argv);
+  brimle::passOverHangingBus();
+  brimle::Basis basis;
+  if (basis.lock.result() != brimle::FolderLock::Result::heldByAnother) return brimle::run(basis, argc, argv);
+  const QCoreApplication application(argc, argv);
+  return brimle::handOver();
 }

@@ -1,39 +1,15 @@
 #include "app/qt_application.h"
 
 #include <QApplication>
-#include <QDialog>
-#include <QDialogButtonBox>
-#include <QIcon>
-#include <QLabel>
-#include <QPushButton>
-#include <QVBoxLayout>
 #include <QWindow>
 #include <algorithm>
 
+#include "app/about_panel.h"
 #include "i18n/i18n.h"
 #include "views/qt/convert.h"
 
 namespace brimle {
 namespace {
-
-constexpr int kIconSize = 64;  // of the about panel, in points
-
-void colour(QLabel* label, const QColor& ink) {
-  QPalette palette = label->palette();
-  palette.setColor(QPalette::WindowText, ink);
-  label->setPalette(palette);
-}
-
-QLabel* centred(const QString& text, double size, QFont::Weight weight = QFont::Normal) {
-  auto* label = new QLabel(text);
-  label->setTextFormat(Qt::PlainText);
-  label->setAlignment(Qt::AlignHCenter);
-  QFont font = label->font();
-  font.setPixelSize(qRound(size));
-  font.setWeight(weight);
-  label->setFont(font);
-  return label;
-}
 
 bool isVisible(const QWindow* window) {
   const bool ofItsOwn = window->type() == Qt::Window || window->type() == Qt::Dialog;
@@ -79,34 +55,7 @@ void QtApplication::forceAppearance(std::optional<bool> dark) {
 }
 
 void QtApplication::showAbout(const Credits& credits) {
-  if (!about_) {
-    auto* panel = new QDialog;
-    panel->setAttribute(Qt::WA_DeleteOnClose);
-    panel->setWindowFlag(Qt::WindowStaysOnTopHint);  // as the main window, which would cover it
-    auto* icon = new QLabel;
-    icon->setPixmap(QApplication::windowIcon().pixmap(kIconSize));
-    icon->setAlignment(Qt::AlignHCenter);
-    const double scale = theme_.textScale();
-    auto* words = centred(toQt(credits.text), credits.size * scale);
-    colour(words, theme_.secondary());
-    QObject::connect(&theme_, &Theme::changed, words, [this, words] { colour(words, theme_.secondary()); });
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-    QPushButton* close = buttons->button(QDialogButtonBox::Close);
-    close->setText(toQt(I18n::t("Close")));
-    close->setIcon({});
-    QObject::connect(buttons, &QDialogButtonBox::rejected, panel, &QDialog::close);
-    auto* column = new QVBoxLayout(panel);
-    column->setContentsMargins(48, 24, 48, 18);
-    column->setSpacing(6);
-    column->addWidget(icon);
-    column->addWidget(centred(QStringLiteral("Brimle"), 17 * scale, QFont::DemiBold));
-    column->addWidget(centred(QApplication::applicationVersion(), 11 * scale));
-    column->addWidget(words);
-    column->addSpacing(8);
-    column->addWidget(buttons);
-    column->setSizeConstraint(QLayout::SetFixedSize);
-    about_ = panel;
-  }
+  if (!about_) about_ = makeAboutPanel(theme_, credits);
   about_->setWindowTitle(toQt(I18n::t("About Brimle")));
   about_->show();
 }

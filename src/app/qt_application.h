@@ -1,8 +1,8 @@
-// The program as the desktop sees it, on Qt: all of its windows, the appearance in force, the about panel.
+// The program as the desktop sees it, on Qt: all of its windows, and the appearance in force.
 #pragma once
 
+#include <QDialog>
 #include <QPointer>
-#include <QWidget>
 #include <optional>
 
 #include "platform/application.h"
@@ -30,7 +30,7 @@ class QtApplication : public Application {
   QtSettingsPortal& settings_;
   const bool desktopLooksDark_;
   std::optional<bool> forcedDark_;
-  QPointer<QWidget> about_;
+  QPointer<QDialog> about_;
   Subscription following_;
 };
 

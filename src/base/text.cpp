@@ -18,12 +18,8 @@ bool isSpace(UChar32 c) {
          c == 0x205F || c == 0x3000;
 }
 
-bool isNewline(UChar32 c) {
-  return (c >= 0x0A && c <= 0x0D) || c == 0x85 || c == 0x2028 || c == 0x2029;
-}
-
 bool isSpaceOrNewline(UChar32 c) {
-  return isSpace(c) || isNewline(c);
+  return isSpace(c) || isNewline(static_cast<char32_t>(c));
 }
 
 /// Steps `at` back over one code point, which it gives; a byte of an ill-formed sequence is one step and
@@ -62,7 +58,7 @@ std::pair<std::size_t, std::size_t> findNewline(std::string_view text, std::size
     const std::size_t start = at;
     UChar32 c;
     U8_NEXT(bytes, at, text.size(), c);
-    if (isNewline(c)) return {start, at - start};
+    if (isNewline(static_cast<char32_t>(c))) return {start, at - start};
   }
   return {std::string_view::npos, 0};
 }

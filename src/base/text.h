@@ -16,6 +16,10 @@ std::string_view trimmed(std::string_view text);
 /// `text` without whitespace and newlines at both ends.
 std::string_view trimmedLines(std::string_view text);
 
+/// Whether a code point is a newline.
+constexpr bool isNewline(char32_t c) {
+  return (c >= 0x0A && c <= 0x0D) || c == 0x85 || c == 0x2028 || c == 0x2029;
+}
 bool containsNewline(std::string_view text);
 /// The pieces between newlines, empty ones included; a text without a newline is one piece.
 std::vector<std::string_view> splitLines(std::string_view text);

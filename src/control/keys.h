@@ -10,8 +10,8 @@
 
 namespace brimle {
 
-/// The keys that have commands, by the numbers that the key tables know them by. Any other
-/// number is a key without a command.
+/// The keys that have commands, by the numbers that the key tables know them by. Any other number is a key
+/// without a command.
 enum class KeyCode : std::uint16_t {
   a = 0,
   c = 8,

@@ -1,3 +1,4 @@
+// A block of text becomes entries: bullets are taken off, indented lines become notes.
 #include "base/text.h"
 #include "entry/entry.h"
 

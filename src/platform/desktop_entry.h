@@ -1,7 +1,11 @@
 // The text of a desktop entry file (Desktop Entry Specification 1.5), as far as an entry that starts a
 // program needs it: its keys in the group [Desktop Entry], and the program that its Exec key names. Keys,
-// groups, comments and translations that nobody asks for stay as they are. Example: "[Desktop
-// Entry]\nType=Application\nName=Brimle\nExec=\"/opt/my apps/brimle\"\n"
+// groups, comments and translations that nobody asks for stay as they are. Example:
+//
+//   [Desktop Entry]
+//   Type=Application
+//   Name=Brimle
+//   Exec="/opt/my apps/brimle"
 #pragma once
 
 #include <optional>

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include "base/text.h"
 #include "entry/date_token.h"
 
 namespace brimle {
@@ -19,10 +20,6 @@ std::string toUtf8(Text text) {
   std::string bytes;
   icu::UnicodeString(false, text.data(), static_cast<std::int32_t>(text.size())).toUTF8String(bytes);
   return bytes;
-}
-
-bool isLineBreak(char16_t c) {
-  return (c >= u'\n' && c <= u'\r') || c == u'\u0085' || c == u'\u2028' || c == u'\u2029';
 }
 
 /// Colours one line, which stands at `start` in the whole text.
@@ -88,7 +85,7 @@ std::vector<TextRun> composerRuns(Text text, const EntryContext& context) {
   std::vector<TextRun> runs;
   for (std::size_t from = 0; from < text.size();) {
     std::size_t end = from;
-    while (end < text.size() && !isLineBreak(text[end])) ++end;
+    while (end < text.size() && !isNewline(text[end])) ++end;
     LineStyler(text.substr(from, end - from), from, context, runs).style();
     from = end + 1;
   }

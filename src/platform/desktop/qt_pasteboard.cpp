@@ -13,7 +13,7 @@ std::optional<std::string> QtPasteboard::string() const {
 }
 
 void QtPasteboard::setString(std::string_view text) {
-  QGuiApplication::clipboard()->setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+  QGuiApplication::clipboard()->setText(QString::fromUtf8(text));
 }
 
 }  // namespace brimle

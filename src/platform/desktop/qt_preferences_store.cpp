@@ -3,14 +3,6 @@
 #include <QStringList>
 
 namespace brimle {
-namespace {
-
-QString toQt(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-}  // namespace
-
 QtPreferencesStore::QtPreferencesStore(const Path& file, Files& files)
     : file_(file), files_(files), settings_(QString::fromStdString(file.string()), QSettings::IniFormat) {}
 
@@ -19,7 +11,7 @@ bool QtPreferencesStore::isOpen() const {
 }
 
 std::optional<std::string> QtPreferencesStore::string(std::string_view key) const {
-  const QVariant value = settings_.value(toQt(key));
+  const QVariant value = settings_.value(QString::fromUtf8(key));
   if (!value.isValid()) return std::nullopt;
   // An unquoted comma makes a list of what was meant as one text.
   return value.toStringList().join(QStringLiteral(", ")).toStdString();
@@ -33,7 +25,7 @@ void QtPreferencesStore::makeFile() {
 
 void QtPreferencesStore::setString(std::string_view key, std::string_view value) {
   if (!files_.exists(file_)) makeFile();
-  settings_.setValue(toQt(key), toQt(value));
+  settings_.setValue(QString::fromUtf8(key), QString::fromUtf8(value));
 }
 
 }  // namespace brimle

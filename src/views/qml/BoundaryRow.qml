@@ -2,6 +2,9 @@
 import QtQuick
 import Brimle
 
+// Ids of this file are read inside components of it, which Qt before 6.5 has no way to declare.
+// qmllint disable unqualified
+
 Item {
     id: boundary
 
@@ -10,16 +13,18 @@ Item {
 
     implicitHeight: (first ? 0 : 16) + word.height + 8
 
+    component Line: Rectangle {
+        anchors.verticalCenter: parent.verticalCenter
+        width: (boundary.width - word.width) / 2 - 5
+        height: 1
+        color: Theme.faded(Theme.primary, 0.08)
+    }
+
     Row {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom; bottomMargin: 8 }
         spacing: 5
 
-        Rectangle {
-            anchors.verticalCenter: parent.verticalCenter
-            width: (boundary.width - word.width) / 2 - 5
-            height: 1
-            color: Theme.faded(Theme.primary, 0.08)
-        }
+        Line {}
         Text {
             id: word
             text: boundary.text
@@ -29,11 +34,6 @@ Item {
             Accessible.role: Accessible.Heading
             Accessible.name: text
         }
-        Rectangle {
-            anchors.verticalCenter: parent.verticalCenter
-            width: (boundary.width - word.width) / 2 - 5
-            height: 1
-            color: Theme.faded(Theme.primary, 0.08)
-        }
+        Line {}
     }
 }

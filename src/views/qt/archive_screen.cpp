@@ -58,16 +58,16 @@ void ArchiveScreen::boundaryMoved(double distance) {
 }
 
 void ArchiveScreen::select(const QString& key, int modifiers) {
-  if (const auto id = Uuid::parse(fromQt(key))) {
-    commands_.selectEntry(*id, modifiersOf(Qt::KeyboardModifiers::fromInt(modifiers)));
-  }
-  emit releaseKeyboard();
+  withId(key, [&](const Uuid& id) {
+    commands_.selectEntry(id, modifiersOf(Qt::KeyboardModifiers::fromInt(modifiers)));
+    emit releaseKeyboard();
+  });
 }
 
 void ArchiveScreen::openMenu(const QString& key, const QPointF& place) {
-  const auto id = Uuid::parse(fromQt(key));
-  const TimelineRow* row = id ? rows_.find(*id) : nullptr;
-  if (row) openRowMenu(key, view_.menu(*row), place);
+  withId(key, [&](const Uuid& id) {
+    if (const TimelineRow* row = rows_.find(id)) openRowMenu(key, view_.menu(*row), place);
+  });
 }
 
 /// Only one thing at a time is what keys act on.
@@ -82,16 +82,16 @@ int ArchiveScreen::rowOfKeys() const {
 }
 
 void ArchiveScreen::remove(const QString& key) {
-  if (const auto id = Uuid::parse(fromQt(key))) store_.removeScheduled(*id);
+  withId(key, [&](const Uuid& id) { store_.removeScheduled(id); });
 }
 
 void ArchiveScreen::beginEdit(const QString& key) {
-  if (const auto id = Uuid::parse(fromQt(key))) view_.beginEdit(*id);
+  withId(key, [&](const Uuid& id) { view_.beginEdit(id); });
 }
 
 void ArchiveScreen::beginNoteEdit(const QString& key, int index) {
-  const auto id = Uuid::parse(fromQt(key));
-  if (id && index >= 0) view_.beginNoteEdit(*id, static_cast<std::size_t>(index));
+  if (index < 0) return;
+  withId(key, [&](const Uuid& id) { view_.beginNoteEdit(id, static_cast<std::size_t>(index)); });
 }
 
 QString ArchiveScreen::dateHint(const QString& text) const {

@@ -15,13 +15,18 @@
 namespace brimle {
 
 inline QString toQt(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  return QString::fromUtf8(text);
 }
 inline std::string fromQt(const QString& text) {
   return text.toStdString();
 }
 inline QString toQt(const Uuid& id) {
   return toQt(id.string());
+}
+/// Calls `action` with the id that the text is, if it is one.
+template <class Action>
+void withId(const QString& text, Action action) {
+  if (const auto id = Uuid::parse(fromQt(text))) action(*id);
 }
 /// Notes as a row shows them.
 inline QStringList shownNotes(const std::vector<std::string>& notes) {

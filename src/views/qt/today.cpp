@@ -4,15 +4,6 @@
 #include "views/qt/key_events.h"
 
 namespace brimle {
-namespace {
-
-/// Calls `action` with the id that the text is, if it is one.
-template <class Action>
-void withId(const QString& text, Action action) {
-  if (const auto id = Uuid::parse(fromQt(text))) action(*id);
-}
-
-}  // namespace
 
 Today::Today(Parts parts)
     : RowScreen(parts.sel, RowList::today),
