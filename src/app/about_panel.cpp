@@ -62,7 +62,7 @@ QDialog* makeAboutPanel(Theme& theme, const Credits& credits) {
   panel->setAttribute(Qt::WA_DeleteOnClose);
   panel->setWindowFlag(Qt::WindowStaysOnTopHint);  // as the main window, which would cover it
   auto* column = new QVBoxLayout(panel);
-  column->setContentsMargins(48, 24, 48, 18);
+  column->setContentsMargins(72, 24, 72, 18);
   column->setSpacing(6);
   column->addWidget(makeIcon());
   column->addWidget(makeLine(QStringLiteral("Brimle"), 17 * theme.textScale(), QFont::DemiBold));
