@@ -43,13 +43,6 @@ TEST_F(InterfaceLanguage, EveryLanguageIsListedWithItsOwnNameAndLocale) {
                                    "ko 한국어", "zh-Hans 简体中文", "zh-Hant 繁體中文"));
 }
 
-TEST_F(InterfaceLanguage, DatesOfAnUnknownCodeAreBritish) {
-  for (const char* code : {"xx", "system"}) {
-    I18n::setLang(code);
-    EXPECT_EQ(I18n::locale(), "en_GB") << code;
-  }
-}
-
 TEST(ResolvingTheLanguageSetting, LeavesEverythingButSystemAlone) {
   for (const char* setting : {"fr", "xx", "", "System", "system "}) {
     EXPECT_EQ(I18n::resolve(setting, {"de-DE"}), setting);

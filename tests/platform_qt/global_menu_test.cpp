@@ -78,10 +78,5 @@ TEST_F(GlobalMenu, HasTheMenusOfTheBarAsTheyAreNow) {
   EXPECT_THAT(registrar.heard, SizeIs(3)) << "of the first menus, of the mark and of the title";
 }
 
-TEST_F(GlobalMenu, WaitsForNoRegistrar) {
-  registrar.appear();
-  EXPECT_TRUE(registrar.isNotWaitedFor([&] { menu.setWindow(window); }));
-}
-
 }  // namespace
 }  // namespace brimle

@@ -6,7 +6,6 @@
 #include <QDBusMessage>
 #include <QDBusPendingCall>
 #include <QDBusVirtualObject>
-#include <functional>
 #include <vector>
 
 namespace brimle {
@@ -40,8 +39,6 @@ class Neighbour : public QDBusVirtualObject {
   void waitForCalls(std::size_t count) const;
   /// Returns when what either side said has arrived at the other, and what was said then, too.
   void settle(const QDBusConnection& program = QDBusConnection::sessionBus()) const;
-  /// Whether the program goes on while a call that it makes by this is not answered.
-  bool isNotWaitedFor(const std::function<void()>& action);
 
   bool handleMessage(const QDBusMessage& call, const QDBusConnection& bus) override;
   QString introspect(const QString&) const override { return {}; }
@@ -64,7 +61,6 @@ class Neighbour : public QDBusVirtualObject {
   const QString service_, connection_;
   QDBusConnection bus_{QString()};
   QDBusPendingCall call_;  ///< the last
-  bool isSilent_ = false;
 };
 
 /// The arguments of a message, with structures and arrays as lists.

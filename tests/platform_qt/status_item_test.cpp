@@ -217,10 +217,5 @@ TEST_F(StatusItemTest, IsClickedWithTheTokenOfThatClickAndUnmovedByCallsThatMean
   EXPECT_THAT(journal, ElementsAre("click token 1", "click "));
 }
 
-TEST_F(StatusItemTest, WaitsForNoWatcher) {
-  panel.appear();
-  EXPECT_TRUE(panel.isNotWaitedFor([&] { install(item); }));
-}
-
 }  // namespace
 }  // namespace brimle
