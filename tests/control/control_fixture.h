@@ -71,10 +71,11 @@ class ControlTest : public StoreTest {
     return text + (sel->hopping() ? "hop " : "") + (focused ? "focus " : "");
   }
 
-  bool press(std::string_view key) {
+  bool press(const KeyPress& key) {
     KeyFilter filter(*store, *sel, ui, pasteboard, todayFocusAdd);
-    return filter.filter(chord(key), {keyboard != "elsewhere", keyboard == "field"});
+    return filter.filter(key, {keyboard != "elsewhere", keyboard == "field"});
   }
+  bool press(std::string_view key) { return press(chord(key)); }
 
   virtual void play(std::string_view script) {
     RowCommands row(*store, *sel);

@@ -5,11 +5,13 @@
 #include <gtest/gtest.h>
 #include <unicode/normalizer2.h>
 
+#include <algorithm>
 #include <map>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "app/core/menu_table.h"
 #include "base/text.h"
 #include "i18n/counts.h"
 
@@ -30,22 +32,27 @@ const std::map<std::string_view, std::set<std::string_view>> kSameAsEnglish = {
     {"pt", {"Menu", "OK"}},
 };
 
-/// Titles that stand beside each other, in a menu where an item is found by its title or as opposites.
+/// Titles that stand beside each other, or as opposites, outside the menu bar.
 const std::vector<Texts> kSiblings = {
-    {"File", "Edit", "View", "Archive", "Window", "Help"},
-    {"System", "Light", "Dark", "Paper", "Font", "Text Size", "Margin", "Language", "Reset to Defaults"},
-    {"Warm", "White", "System", "Serif", "Rounded"},
-    {"Small", "Medium", "Large"},
-    {"Standard", "Narrow", "Flush"},
-    {"Compact", "Regular", "Large"},
-    {"About Brimle", "Check for Updates…", "Start at Login", "Quit Brimle"},
-    {"Undo", "Redo", "Cut", "Copy", "Paste", "Select All"},
     {"Tick", "Untick", "Add note", "Highlight", "Remove highlight", "Pin to top", "Unpin", "Repeat",
      "Delete"},
     {"No repeat", "Every day", "Weekdays only"},
-    {"Past days", "Future days", "Today", "Yesterday", "tomorrow"},
+    {"Archive", "Past days", "Future days", "Today", "Yesterday", "tomorrow"},
     {"ticked", "pinned", "repeats", "highlighted", "selected"},
 };
+
+/// The titles of the menu bar by the menu or submenu that they stand in, but for the languages' own names.
+std::map<std::string, std::set<std::string_view>> menuTitles() {
+  std::map<std::string, std::set<std::string_view>> titles;
+  for (const MenuRow& row : menuRows()) {
+    const std::string menu(row.menu), submenu = menu + "/" + std::string(row.submenu);
+    if (!row.menu.empty()) titles["bar"].insert(row.menu);
+    if (!row.submenu.empty()) titles[menu].insert(row.submenu);
+    const bool isLanguage = row.command == Command::setLanguage && row.value != "system";
+    if (!row.title.empty() && !isLanguage) titles[row.submenu.empty() ? menu : submenu].insert(row.title);
+  }
+  return titles;
+}
 
 Texts keysOf(std::span<const Translation> rows) {
   Texts keys;
@@ -116,6 +123,17 @@ TEST_P(Translations, TellSiblingsApart) {
   for (const Texts& siblings : kSiblings) {
     std::set<std::string> titles;
     for (const auto key : siblings) EXPECT_TRUE(titles.insert(I18n::t(key)).second) << key;
+  }
+}
+
+TEST_P(Translations, HaveEveryTitleOfTheMenuBarAndTellThoseOfOneMenuApart) {
+  const Texts keys = keysOf(allRows());
+  for (const auto& [menu, titles] : menuTitles()) {
+    std::set<std::string> told;
+    for (const auto title : titles) {
+      EXPECT_NE(std::ranges::find(keys, title), keys.end()) << title;
+      EXPECT_TRUE(told.insert(I18n::t(title)).second) << title;
+    }
   }
 }
 
