@@ -5,8 +5,8 @@
 // lists an operation assigns, it is one undo step and one save, made before the outermost operation returns.
 // No operation reports an error: where a file cannot be written the lists go on in memory and the next change
 // tries again. One that runs out of memory throws and changes nothing: all lists are computed before the
-// first is assigned, and after that nothing throws. Main thread only. Each rule has a source file of its own,
-// store_<rule>.cpp.
+// first is assigned, and after that nothing throws. Main thread only. The sources are parted by what they are
+// about: store_<subject>.cpp.
 #pragma once
 
 #include <bitset>

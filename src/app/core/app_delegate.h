@@ -2,8 +2,8 @@
 // commands, the status item, and what it does when the desktop calls on it.
 //
 // It owns the menu bar and whether the window is folded. It refers to the store and the settings, and reaches
-// the desktop through ports alone. Every command goes through `perform`; each rule has a source file of its
-// own, app_<rule>.cpp.
+// the desktop through ports alone. Every command goes through `perform`; the sources are parted by what they
+// are about: app_<subject>.cpp.
 #pragma once
 
 #include <functional>
